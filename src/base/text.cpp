@@ -1,0 +1,118 @@
+#include "base/text.h"
+
+#include <cstdint>
+
+namespace qrn::text {
+namespace {
+
+constexpr char32_t kReplacement = 0xFFFD;
+
+bool isContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
+
+unsigned char lower(unsigned char c) { return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + 32) : c; }
+
+// How many bytes the sequence of a first byte has; 0 for a byte that starts none.
+int sequenceLength(unsigned char first) {
+  if (first < 0x80) return 1;
+  if (first >= 0xC2 && first < 0xE0) return 2;
+  if (first >= 0xE0 && first < 0xF0) return 3;
+  if (first >= 0xF0 && first < 0xF5) return 4;
+  return 0;
+}
+
+bool isOverlongOrSurrogate(char32_t c, int bytes) {
+  return (bytes == 3 && c < 0x800) || (bytes == 4 && (c < 0x10000 || c > 0x10FFFF)) || (c >= 0xD800 && c < 0xE000);
+}
+
+}  // namespace
+
+char32_t next(std::string_view utf8, std::size_t& offset) {
+  const auto first = static_cast<unsigned char>(utf8[offset++]);
+  const int bytes = sequenceLength(first);
+  if (bytes == 1) return first;
+  if (bytes == 0 || offset + static_cast<std::size_t>(bytes) - 1 > utf8.size()) return kReplacement;
+  char32_t c = first & (0xFFu >> (bytes + 1));
+  for (int i = 0; i < bytes - 1; ++i) {
+    const auto byte = static_cast<unsigned char>(utf8[offset + static_cast<std::size_t>(i)]);
+    if (!isContinuation(byte)) return kReplacement;
+    c = (c << 6) | (byte & 0x3F);
+  }
+  if (isOverlongOrSurrogate(c, bytes)) return kReplacement;
+  offset += static_cast<std::size_t>(bytes) - 1;
+  return c;
+}
+
+void append(std::string& utf8, char32_t c) {
+  const auto put = [&](char32_t byte) { utf8.push_back(static_cast<char>(byte)); };
+  if (c < 0x80) {
+    put(c);
+  } else if (c < 0x800) {
+    put(0xC0 | (c >> 6));
+    put(0x80 | (c & 0x3F));
+  } else if (c < 0x10000) {
+    put(0xE0 | (c >> 12));
+    put(0x80 | ((c >> 6) & 0x3F));
+    put(0x80 | (c & 0x3F));
+  } else {
+    put(0xF0 | (c >> 18));
+    put(0x80 | ((c >> 12) & 0x3F));
+    put(0x80 | ((c >> 6) & 0x3F));
+    put(0x80 | (c & 0x3F));
+  }
+}
+
+std::size_t length(std::string_view utf8) {
+  std::size_t count = 0;
+  for (std::size_t offset = 0; offset < utf8.size(); ++count) next(utf8, offset);
+  return count;
+}
+
+std::size_t byteOffset(std::string_view utf8, std::size_t position) {
+  std::size_t offset = 0;
+  for (; position > 0 && offset < utf8.size(); --position) next(utf8, offset);
+  return offset;
+}
+
+std::string_view slice(std::string_view utf8, std::size_t position, std::size_t count) {
+  utf8.remove_prefix(byteOffset(utf8, position));
+  return count == std::string_view::npos ? utf8 : utf8.substr(0, byteOffset(utf8, count));
+}
+
+bool sameName(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (lower(static_cast<unsigned char>(a[i])) != lower(static_cast<unsigned char>(b[i]))) return false;
+  }
+  return true;
+}
+
+std::size_t nameHash(std::string_view name) {
+  std::uint64_t hash = 14695981039346656037u;  // FNV-1a
+  for (const char c : name) hash = (hash ^ lower(static_cast<unsigned char>(c))) * 1099511628211u;
+  return static_cast<std::size_t>(hash);
+}
+
+std::string lowered(std::string_view ascii) {
+  std::string result(ascii);
+  for (char& c : result) c = static_cast<char>(lower(static_cast<unsigned char>(c)));
+  return result;
+}
+
+std::string_view trimmed(std::string_view text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+std::string replaced(std::string_view text, std::string_view what, std::string_view by) {
+  std::string result;
+  for (std::size_t from = 0;;) {
+    const auto found = what.empty() ? std::string_view::npos : text.find(what, from);
+    result += text.substr(from, found - from);
+    if (found == std::string_view::npos) return result;
+    result += by;
+    from = found + what.size();
+  }
+}
+
+}  // namespace qrn::text
