@@ -9,6 +9,8 @@ std::string_view runTimeErrorText(std::int32_t number) {
     case kSubscriptOutOfRange: return "Subscript out of range";
     case kTypeMismatch: return "Type mismatch";
     case kFileNotFound: return "File not found";
+    case kInvalidPatternString: return "Invalid pattern string";
+    case kInvalidUseOfNull: return "Invalid use of Null";
     case kInvalidFileFormat: return "Invalid file format";
     case kControlArrayElementMissing: return "Control array element doesn't exist";
     case kInvalidPropertyValue: return "Invalid property value";

@@ -14,6 +14,8 @@ enum ErrorNumber : std::int32_t {
   kSubscriptOutOfRange = 9,
   kTypeMismatch = 13,
   kFileNotFound = 53,
+  kInvalidPatternString = 93,
+  kInvalidUseOfNull = 94,
   kInvalidFileFormat = 321,
   kControlArrayElementMissing = 340,
   kInvalidPropertyValue = 380,

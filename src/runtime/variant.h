@@ -28,7 +28,21 @@ struct ErrorValue {
 /// A value of any of the automation types. Text is UTF-8.
 class Variant {
  public:
-  enum class Type { Empty, Null, Boolean, Integer, Long, Single, Double, Currency, Decimal, Date, String, Object, Error };
+  enum class Type {
+    Empty,
+    Null,
+    Boolean,
+    Integer,
+    Long,
+    Single,
+    Double,
+    Currency,
+    Decimal,
+    Date,
+    String,
+    Object,
+    Error
+  };
 
   Variant() = default;
   Variant(Empty) {}
@@ -58,21 +72,24 @@ class Variant {
 
   /// The held value, or null when the variant holds another type.
   template <class T>
-  const T* get() const { return std::get_if<T>(&value_); }
+  const T* get() const {
+    return std::get_if<T>(&value_);
+  }
 
   /// The same type and the same value; objects by identity.
   friend bool operator==(const Variant&, const Variant&) = default;
 
  private:
-  std::variant<Empty, Null, bool, std::int16_t, std::int32_t, float, double, Currency, Decimal, Date, std::string,
-               ObjectPtr, ErrorValue>
+  std::variant<Empty, Null, bool, std::int16_t, std::int32_t, float, double, Currency, Decimal, Date,
+               std::string, ObjectPtr, ErrorValue>
       value_;
 };
 
 /// "Empty", "Null", "Boolean", "Integer", … as callers name the types.
 std::string_view typeName(Variant::Type type);
 
-/// Numbers, Boolean, Currency, Decimal, Empty and texts that read as a number; not dates, Null, objects or errors.
+/// Numbers, Boolean, Currency, Decimal, Empty and texts that read as a number; not dates, Null, objects or
+/// errors.
 bool isNumeric(const Variant& value);
 
 }  // namespace qrn
