@@ -24,8 +24,9 @@ std::string sizeText(const Bitmap& bitmap) {
   return std::to_string(bitmap.width) + "x" + std::to_string(bitmap.height);
 }
 
-std::size_t pixelCount(const Bitmap& bitmap) {
-  return static_cast<std::size_t>(bitmap.width) * static_cast<std::size_t>(bitmap.height);
+// In 64 bits on every machine: sizes in a foreign text must not wrap around to a small count.
+std::uint64_t pixelCount(const Bitmap& bitmap) {
+  return static_cast<std::uint64_t>(bitmap.width) * static_cast<std::uint64_t>(bitmap.height);
 }
 
 // A scale that is no whole number leaves up to one pixel of rounding in the height.
@@ -74,7 +75,7 @@ std::string toBase64(std::string_view bytes) {
 
 std::string fromBase64(std::string_view text) {
   if (text.size() % 4 != 0) refuse("The pixels of a picture text are cut off");
-  while (text.ends_with('=')) text.remove_suffix(1);
+  for (int padding = 0; padding < 2 && text.ends_with('='); ++padding) text.remove_suffix(1);
   std::string bytes;
   std::uint32_t bits = 0;
   int held = 0;
@@ -115,8 +116,12 @@ std::vector<Bitmap> sizesFromText(std::string_view text) {
 }
 
 // Reads the runs of one bitmap off the front of the bytes.
-std::vector<std::uint32_t> takePixels(std::string_view& bytes, std::size_t count) {
+std::vector<std::uint32_t> takePixels(std::string_view& bytes, std::uint64_t count) {
+  // Said before anything is allocated, as sizes in a foreign text may be anything.
+  if (bytes.size() / kRunBytes * kLongestRun < count)
+    refuse("A picture text has too few pixels for its sizes");
   std::vector<std::uint32_t> argb;
+  argb.reserve(static_cast<std::size_t>(count));
   while (argb.size() < count) {
     if (bytes.size() < kRunBytes) refuse("A picture text has too few pixels for its sizes");
     std::uint32_t pixel = 0;
