@@ -1,6 +1,6 @@
 // Made by tools/make_pictures from assets/pictures; change those and run it again.
-// sources b902f66e9d21ea9ae1878c06b133b9c465eeaf311c326c1dc06b70a2b5878db2
-// table 48a4fb9cb305df3622cc368431ebd532750148b222ea38b30084ff594f77d39c
+// sources 9d555b583ebfdd0b473f52a2798e5dca2861d31f4e9faccc1fd20577cdcf74b3
+// table 6ca7a0507b2837bad8417230af42e6f817ecd3d60426095a5b0736074d3822fc
 #pragma once
 
 #include <array>
@@ -1088,112 +1088,112 @@ inline constexpr std::string_view kDynamic23x =
 
 // Broken line: live, but not connected.
 inline constexpr std::uint32_t kDynamicOfflineColors[] = {
-    0x00000000, 0xFFE3E8ED, 0xFF5B6B7B, 0xFF22303C, 0xFF25333F, 0xFFA1AAB1, 0xFFDCE2E7, 0xFFC6CCD3,
-    0xFF36434E, 0xFF55606A, 0xFF25323E, 0xFFA3ACB3, 0xFF33414C, 0xFF36444F, 0xFFC4CAD0, 0xFFC7CDD4,
-    0xFF9EA6AD, 0x815B6B7B, 0xC9647383, 0x405C6C7C, 0x1F5A6B7B, 0xB15B6B7A, 0x5A5B6C7A, 0xE55B6B7A,
-    0xCE5C6A7B, 0xFFD1D7DD, 0xBF5B6B7B, 0xFFA8B2BC, 0xF25B6B7B, 0x4E5C6C7C, 0xFF606F7F, 0x7A5C6B7B,
-    0xFB5C6D7D, 0xFFA3AEB7, 0xFF515C67, 0xFCA1ABB5, 0xEA5C6B7B, 0xFFE0E6EA, 0xFF9FA9B4, 0xFFD9E0E5,
-    0xCC5B6C7B, 0xFC5C6B7C, 0xC6647482, 0x7C5A6B7B, 0x3D5C6D79, 0x225A6978, 0xFFDBE0E6, 0xFF5E6E7E,
-    0xFFC4CCD3, 0xFFA1AAB5, 0xFFA5AFB8, 0xFDA2ACB6, 0xB35B6B7B, 0xBD5A6B7B, 0xC8657382, 0xC7637383,
-    0xCD5B6B7B, 0xE65B6C7B, 0xFD5B6B7B, 0xF45B6B7B, 0xCA647382, 0xE95B6B7B, 0xC8637382, 0xC05C6C7C,
-    0x585A6B7A, 0xB25C6B7B, 0x3E5A6B7B, 0x1E5E6F77, 0x595C6A7B, 0x215D6C7C, 0x02808080, 0xFF253440,
-    0xFF9FA7AE, 0xFFE1E6EB, 0xFFD0D6DD, 0xFF60707F, 0xFFA0AAB5, 0xFFD0D7DD, 0xFFDFE5E9, 0xFF56616B,
-    0xFF5E6D7D, 0xFF9FAAB4, 0xFFA4AFB8, 0xFFC4CBD3, 0xFFDADFE5, 0xFFDAE0E5, 0xFC5D6C7C, 0xFCA2ABB6,
-    0x20586878, 0xC7647383,
+    0x00000000, 0xFFE3E8ED, 0xFF5B6B7B, 0xFF22303C, 0xFFE1E6EB, 0xFFE0E5EA, 0xFF646E78, 0xFF6C7780,
+    0xFC5B6B7B, 0x02808080, 0xFF9099A1, 0xFF626C76, 0xFF77818A, 0xFFE0E6EB, 0x225A6978, 0xFD5B6B7B,
+    0xFF606F7F, 0x815B6B7B, 0xBD5A6B7B, 0xFFC4CCD3, 0x4E5C6C7C, 0xFFA8B2BC, 0xE55B6B7A, 0xFFD1D7DD,
+    0xC8657382, 0x3D5C6D79, 0xCE5C6A7B, 0xFCA1ABB5, 0xB25C6B7B, 0x5A5B6C7A, 0xF15B6B7B, 0xFFD9E0E5,
+    0xFFA7AEB6, 0xFF717B85, 0xFF7C868F, 0x7A5C6B7B, 0xFF67727C, 0xFFA3AEB7, 0xEA5C6B7B, 0xFF9FA9B4,
+    0x1E5E6F77, 0xCC5B6C7B, 0xC05C6C7C, 0xFB5C6D7D, 0x7C5A6B7B, 0x405C6C7C, 0xFFDBE0E6, 0xFF5E6E7E,
+    0xFFA1AAB5, 0xFFA5AFB8, 0xCA647382, 0xC7637383, 0xF45B6B7B, 0xFDA2ACB6, 0xFC5D6C7C, 0xC6647482,
+    0xCD5B6B7B, 0xE65B6C7B, 0xB35B6B7B, 0xC9647383, 0xE95B6B7B, 0xC8637382, 0xBF5B6B7B, 0x585A6B7A,
+    0xB15B6B7A, 0x3E5A6B7B, 0x1F5A6B7B, 0x595C6A7B, 0x215D6C7C, 0xFFE0E6EA, 0xFFE2E7EC, 0xFF6B767F,
+    0xFF66717B, 0xFFA8AFB7, 0xFFE0E4E9, 0xFFD0D6DD, 0xFF60707F, 0xFFA0AAB5, 0xFFD0D7DD, 0xFFDFE5E9,
+    0xFF5E6D7D, 0xFF9FAAB4, 0xFFA4AFB8, 0xFFC4CBD3, 0xFFDAE0E5, 0xFC5C6B7C, 0xFCA2ABB6, 0x20586878,
+    0xC7647383, 0xF25B6B7B,
 };
 inline constexpr std::string_view kDynamicOffline1x =
     "................"
-    "}qNaaaaaaaaaaN0s"
-    "6XJ##########J|8"
-    "{J############={"
-    "a####ee##ee####a"
-    "a###ehheehhe###a"
-    "a###ehbhhbhe###a"
-    "a#aa#ehbbhe#aa#a"
-    "a#aa#e>bbG_#aa#a"
-    "a###ehbhhbhe###a"
-    "a###ehheehhe###a"
-    "a####ee##ee####a"
-    "{J############=E"
-    "0|J##########JH1"
-    "s~{aaaaaaaaaa{O&";
+    "|5`aaaaaaaaaa`w%"
+    "WZ)##########){7"
+    "0)############>0"
+    "a##############a"
+    "a#####-##-#####a"
+    "a####EbkkbE####a"
+    "a#aaa#kbbk#aaa#a"
+    "a#aaa#Gbbk*aaa#a"
+    "a####EbkkbE####a"
+    "a#####-##-#####a"
+    "a##############a"
+    "0)############>P"
+    "w{)##########)zX"
+    "%}0aaaaaaaaaa01M";
 inline constexpr std::string_view kDynamicOffline2x =
     "................................"
     "................................"
-    "..ry5aaaaaaaaaaaaaaaaaaaaaa5yB.."
-    ".P4aaaaaaaaaaaaaaaaaaaaaaaaaaap."
-    "r4TWS######################SzT4%"
-    "9aW##########################Fay"
-    "AaS##########################LaA"
+    "..R8YaaaaaaaaaaaaaaaaaaaaaaY8s.."
+    ".Qnaaaaaaaaaaaaaaaaaaaaaaaaaaap."
+    "RnTVS######################StTn$"
+    "OaV##########################Ja8"
+    "YaS##########################Da~"
     "aa############################aa"
     "aa############################aa"
-    "aa#########ff######ff#########aa"
-    "aa########fggf####fggf########aa"
-    "aa#######nlbbkm##nlbbkm#######aa"
-    "aa#######nlbbbkmnlbbbkm#######aa"
-    "aa########fgbbbggbbbgf########aa"
-    "aa##aaaa###nlbbbbbbkm###aaaa##aa"
-    "aa##aaaa####fgbbbbgf####aaaa##aa"
-    "aa##aaaa####nlbbbbkm####aaaa##aa"
-    "aa##aaaa###nlbbbbbbkm###aaaa##aa"
-    "aa########fgbbbggbbbgf########aa"
-    "aa#######nlbbbkmnlbbbkm#######aa"
-    "aa#######nlbbkm##nlbbkm#######aa"
-    "aa########fggf####fggf########aa"
-    "aa#########ff######ff#########aa"
+    "aa############################aa"
+    "aa##########cc####cc##########aa"
+    "aa#########cffc##cffc#########aa"
+    "aa########*Fbb+c*Fbb+c########aa"
+    "aa########cfbbbffbbbfc########aa"
+    "aa##aaaaaa#cfbbbbbbfc#aaaaaa##aa"
+    "aa##aaaaaa##cfbbbbfc##aaaaaa##aa"
+    "aa##aaaaaa##*Fbbbb+c##aaaaaa##aa"
+    "aa##aaaaaa#cfbbbbbbfc#aaaaaa##aa"
+    "aa########cfbbbffbbbfc########aa"
+    "aa########*Fbb+c*Fbb+c########aa"
+    "aa#########cffc##cffc#########aa"
+    "aa##########cc####cc##########aa"
     "aa############################aa"
     "aa############################aa"
-    "AaS##########################LaA"
-    "yaz##########################FaZ"
-    "BaT]`######################LF@4Q"
-    ".p4aaaaaaaaaaaaaaaaaaaaaaaaaa4D."
-    "..%ZAaaaaaaaaaaaaaaaaaaaaaaAZQ..";
+    "aa############################aa"
+    "~aS##########################DaC"
+    "8at##########################Jaq"
+    "saT]_######################DJ@nx"
+    ".pnaaaaaaaaaaaaaaaaaaaaaaaaaanH."
+    "..$qYaaaaaaaaaaaaaaaaaaaaaa~qx..";
 inline constexpr std::string_view kDynamicOffline3x =
     "................................................"
     "................................................"
     "................................................"
-    "...*uY34aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa43Y(*..."
-    "..Rwaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa2R.."
-    ".R7aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaIR."
-    "*waa:Vx-################################-<;Caa2*"
-    "uaa:U######################################UCaa!"
-    "YaaV########################################Kaat"
-    "3aax########################################/aav"
-    "4aa-########################################-aa4"
+    "...hB43gaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaag34&h..."
+    "..myaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa2m.."
+    ".m6aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaKm."
+    "hyaa;Uvc################################c=<oaa2h"
+    "Baa;r######################################roaa9"
+    "4aaU########################################Laa!"
+    "3aav########################################:aau"
+    "gaac########################################caag"
     "aaa##########################################aaa"
     "aaa##########################################aaa"
     "aaa##########################################aaa"
-    "aaa##############dd##########dd##############aaa"
-    "aaa#############jcio########jcio#############aaa"
-    "aaa############dcbbcd######dcbbcd############aaa"
-    "aaa###########jcbbbbio####jcbbbbio###########aaa"
-    "aaa###########j+bbbbbio##jcbbbbbi,###########aaa"
-    "aaa############dcbbbbbcddcbbbbbcd############aaa"
-    "aaa#############dcbbbbbccbbbbbcd#############aaa"
-    "aaa###aaaaaa#####j+bbbbbbbbbbi,#####aaaaaa###aaa"
-    "aaa###aaaaaa######j+bbbbbbbbi,######aaaaaa###aaa"
-    "aaa###aaaaaa#######dcbbbbbbcd#######aaaaaa###aaa"
-    "aaa###aaaaaa#######jcbbbbbbio#######aaaaaa###aaa"
-    "aaa###aaaaaa######jcbbbbbbbbio######aaaaaa###aaa"
-    "aaa###aaaaaa#####jcbbbbbbbbbbio#####aaaaaa###aaa"
-    "aaa#############dcbbbbbccbbbbbcd#############aaa"
-    "aaa############dcbbbbbcddcbbbbbcd############aaa"
-    "aaa###########jcbbbbbi,##j+bbbbbio###########aaa"
-    "aaa###########j+bbbbi,####j+bbbbi,###########aaa"
-    "aaa############dcbbcd######dcbbcd############aaa"
-    "aaa#############j+i,########j+i,#############aaa"
-    "aaa##############dd##########dd##############aaa"
+    "aaa##########################################aaa"
+    "aaa##########################################aaa"
+    "aaa###############did######did###############aaa"
+    "aaa##############debed####debed##############aaa"
+    "aaa#############l,bbbj/##l,bbbj/#############aaa"
+    "aaa#############ibbbbbeddebbbbbi#############aaa"
+    "aaa#############debbbbbeebbbbbed#############aaa"
+    "aaa###aaaaaaaaa##debbbbbbbbbbed##aaaaaaaaa###aaa"
+    "aaa###aaaaaaaaa###lIbbbbbbbbjd###aaaaaaaaa###aaa"
+    "aaa###aaaaaaaaa####debbbbbbed####aaaaaaaaa###aaa"
+    "aaa###aaaaaaaaa####l,bbbbbbj/####aaaaaaaaa###aaa"
+    "aaa###aaaaaaaaa###l,bbbbbbbbj/###aaaaaaaaa###aaa"
+    "aaa###aaaaaaaaa##debbbbbbbbbbed##aaaaaaaaa###aaa"
+    "aaa#############debbbbbeebbbbbed#############aaa"
+    "aaa#############ibbbbbeddebbbbbi#############aaa"
+    "aaa#############lIbbbjd##lIbbbjd#############aaa"
+    "aaa##############debed####debed##############aaa"
+    "aaa###############did######did###############aaa"
     "aaa##########################################aaa"
     "aaa##########################################aaa"
     "aaa##########################################aaa"
-    "4aa-########################################-aa4"
-    "3aax########################################/aav"
-    "$aa;########################################[aat"
-    "(aaC^######################################UCaa!"
-    "*2aaCK<-################################-/KCaaM*"
-    ".RIaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa7)."
-    "..R2aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaM).."
-    "...*(tv4aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa4vt!*...";
+    "aaa##########################################aaa"
+    "aaa##########################################aaa"
+    "gaac########################################caag"
+    "3aav########################################:aau"
+    "Aaa<########################################[aa!"
+    "&aao^######################################roaa9"
+    "h2aaoL=c################################c:LoaaNh"
+    ".mKaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa6(."
+    "..m2aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaN(.."
+    "...h&!ugaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaagu!9h...";
 
 // Star of a required field.
 inline constexpr std::uint32_t kNeededColors[] = {
