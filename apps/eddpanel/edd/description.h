@@ -97,7 +97,8 @@ enum class ValueKind : std::uint8_t {
 /// The keyword of the language, such as "UNSIGNED_INTEGER".
 std::string_view keywordOf(ValueKind kind);
 
-/// `size` counts bytes for numbers, enumerations and times, characters for texts, bits for BITSTRING.
+/// `size` counts bytes for numbers and enumerations, characters for texts, bits for BITSTRING;
+/// dates and times that do not write one have 0.
 struct ValueType {
   ValueKind kind = ValueKind::Integer;
   std::uint32_t size = 0;
