@@ -11,7 +11,8 @@ namespace detail {
 
 class EventBase;
 
-/// One listener. Its event, its connection and every raise under way keep it; the last one to let go deletes it.
+/// One listener. Its event, its connection and every raise under way keep it; the last one to let go deletes
+/// it.
 struct EventSlot {
   virtual ~EventSlot() = default;
 
@@ -70,8 +71,10 @@ class EventBase {
    private:
     void push(EventSlot* slot) {
       slot->keep();
-      if (count_ < kFew) few_[count_] = slot;
-      else more_.push_back(slot);
+      if (count_ < kFew)
+        few_[count_] = slot;
+      else
+        more_.push_back(slot);
       ++count_;
     }
 
@@ -118,7 +121,8 @@ class [[nodiscard]] Connection {
 ///
 /// While it is being raised:
 /// - listeners run in the order in which they connected;
-/// - one that disconnects, itself or another, is not called any more; the function that is running stays alive
+/// - one that disconnects, itself or another, is not called any more; the function that is running stays
+/// alive
 ///   until it returns;
 /// - one that connects is first called by the next raise;
 /// - raising again from a listener runs a whole raise inside;

@@ -14,8 +14,8 @@
 namespace qrn {
 
 /// An ordered collection with 1-based positions and string keys whose case does not count.
-/// Appending and finding cost the same however long it is; inserting before an entry or removing one renumbers
-/// those behind it.
+/// Appending and finding cost the same however long it is; inserting before an entry or removing one
+/// renumbers those behind it.
 template <class T>
 class KeyedList {
  public:
@@ -100,7 +100,8 @@ class KeyedList {
   }
 
   void renumberFrom(std::int32_t position) {
-    for (; position <= count(); ++position) entries_[static_cast<std::size_t>(position) - 1]->position = position;
+    for (; position <= count(); ++position)
+      entries_[static_cast<std::size_t>(position) - 1]->position = position;
   }
 
   std::vector<std::unique_ptr<Entry>> entries_;

@@ -21,7 +21,8 @@ int sequenceLength(unsigned char first) {
 }
 
 bool isOverlongOrSurrogate(char32_t c, int bytes) {
-  return (bytes == 3 && c < 0x800) || (bytes == 4 && (c < 0x10000 || c > 0x10FFFF)) || (c >= 0xD800 && c < 0xE000);
+  return (bytes == 3 && c < 0x800) || (bytes == 4 && (c < 0x10000 || c > 0x10FFFF)) ||
+         (c >= 0xD800 && c < 0xE000);
 }
 
 }  // namespace

@@ -11,7 +11,8 @@ std::size_t length(std::string_view utf8);
 /// The byte offset of a code point position; the end of the text for a position beyond it.
 std::size_t byteOffset(std::string_view utf8, std::size_t position);
 /// The part of `count` code points from a position.
-std::string_view slice(std::string_view utf8, std::size_t position, std::size_t count = std::string_view::npos);
+std::string_view slice(std::string_view utf8, std::size_t position,
+                       std::size_t count = std::string_view::npos);
 /// One code point at a byte offset, which moves behind it. Broken bytes come back as U+FFFD, one each.
 char32_t next(std::string_view utf8, std::size_t& offset);
 void append(std::string& utf8, char32_t codePoint);

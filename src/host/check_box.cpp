@@ -1,0 +1,14 @@
+#include "host/check_box.h"
+
+#include "host/user_control.h"
+
+namespace qrn::host {
+
+void CheckBox::userToggled() {
+  if (!Enabled()) return;
+  value_ = value_ == 0 ? 1 : 0;
+  if (!peer()) invalidate();
+  Parent()->childClicked(*this);
+}
+
+}  // namespace qrn::host

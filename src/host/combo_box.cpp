@@ -1,0 +1,20 @@
+#include "host/combo_box.h"
+
+#include "host/user_control.h"
+
+namespace qrn::host {
+
+void ComboBox::userSelected(std::int32_t index) {
+  if (index == listIndex_) return;
+  if (locked_ || index < -1 || index >= ListCount()) {
+    if (peer()) peer()->changed(Aspect::Content);
+    return;
+  }
+  listIndex_ = index;
+  if (!peer()) invalidate();
+  const WeakRef<Control> self(this);
+  Parent()->childChanged(*this);
+  if (self) Parent()->childClicked(*this);
+}
+
+}  // namespace qrn::host

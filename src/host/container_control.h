@@ -1,0 +1,35 @@
+#pragma once
+
+#include <vector>
+
+#include "host/control.h"
+
+namespace qrn::host {
+
+/// A control that others lie in: it gives them its coordinates and clips them.
+class ContainerControl : public Control {
+ public:
+  ~ContainerControl() override;
+
+  /// In painting order, the last one on top.
+  const std::vector<Control*>& contained() const { return contained_; }
+  void contain(Control& control, UserControl& parent, std::string_view name);
+  void release(Control& control);
+  void bringToFront(Control& control);
+
+  /// Logical pixels of one scale unit of what lies inside.
+  virtual Point pixelsPerUnit() const { return {1, 1}; }
+  /// How far the inside is scrolled, in pixels.
+  virtual Point scrollOffset() const { return {}; }
+
+  /// The place of a contained control in pixels of this one.
+  Rect pixelBounds(const Control& child) const;
+  Control* childAt(Point pixels) const;
+  /// Draws this control and everything in it that has no native widget.
+  void paintTree(Surface& surface);
+
+ private:
+  std::vector<Control*> contained_;
+};
+
+}  // namespace qrn::host

@@ -1,0 +1,176 @@
+#include "host/control.h"
+
+#include "host/container_control.h"
+#include "host/user_control.h"
+#include "runtime/errors.h"
+
+namespace qrn::host {
+
+/// The window of a control, for the code that works with windows and messages.
+class ControlWindow final : public WindowOwner {
+ public:
+  explicit ControlWindow(Control& control)
+      : control_(control), windows_(control.platform().windows()), handle_(windows_.create(*this)) {}
+  ~ControlWindow() override { windows_.destroy(handle_); }
+
+  WindowHandle handle() const { return handle_; }
+
+  std::intptr_t windowMessage(const Message& message) override { return control_.windowMessage(message); }
+  bool windowEnabled() const override { return control_.Enabled(); }
+  WindowHandle parentWindow() const override {
+    return control_.Container() ? control_.Container()->window() : 0;
+  }
+  std::string_view windowTitle() const override { return {}; }
+  void windowInvalidated() override { control_.invalidate(); }
+
+ private:
+  Control& control_;
+  Windows& windows_;
+  WindowHandle handle_;
+};
+
+struct Control::Rare {
+  std::string toolTip;
+  std::unique_ptr<ControlWindow> window;
+};
+
+Control::Control() = default;
+
+Control::~Control() {
+  if (container_) {
+    if (UserControl& top = root(); &top != this) top.input().forget(*this);
+    container_->release(*this);
+  }
+}
+
+Control::Rare& Control::rare() {
+  if (!rare_) rare_ = std::make_unique<Rare>();
+  return *rare_;
+}
+
+void Control::SetVisible(bool visible) {
+  if (visible == visible_) return;
+  invalidate();
+  visible_ = visible;
+  if (!visible && container_ && hasFocus()) input().setFocus(nullptr);
+  if (peer_) peer_->changed(Aspect::Place);
+  invalidate();
+  visibilityChanged();
+}
+
+void Control::SetEnabled(bool enabled) { change(enabled_, enabled, Aspect::Enabled); }
+
+void Control::Move(double left, double top, double width, double height) {
+  const Rect target{left, top, width, height};
+  if (target == bounds_) return;
+  const Rect before = bounds_;
+  invalidate();
+  bounds_ = target;
+  if (peer_) peer_->changed(Aspect::Place);
+  invalidate();
+  moved(before);
+}
+
+const std::string& Control::ToolTipText() const {
+  static const std::string none;
+  return rare_ ? rare_->toolTip : none;
+}
+
+void Control::SetToolTipText(std::string_view text) {
+  if (text == ToolTipText()) return;
+  rare().toolTip = text;
+  if (peer_) peer_->changed(Aspect::Look);
+}
+
+void Control::SetFocus() {
+  if (Control* target = focusTarget()) input().setFocus(target);
+}
+
+bool Control::hasFocus() const {
+  const Control* control = input().focus();
+  while (control && control != this) control = control->container_;
+  return control != nullptr;
+}
+
+WindowHandle Control::window() {
+  auto& window = rare().window;
+  if (!window) window = std::make_unique<ControlWindow>(*this);
+  return window->handle();
+}
+
+std::int32_t Control::hwnd() { return static_cast<std::int32_t>(window()); }
+
+std::intptr_t Control::windowMessage(const Message& message) {
+  if (message.number != wm::NcHitTest) return 0;
+  // The screen position is packed as two 16-bit halves, x low.
+  const Point screen{static_cast<double>(static_cast<std::int16_t>(message.lParam & 0xFFFF)),
+                     static_cast<double>(static_cast<std::int16_t>(message.lParam >> 16 & 0xFFFF))};
+  const Point at = screen - platform().screenPosition(root());
+  return shown() && visibleOnSurface().contains(at) ? kHitClient : kHitNowhere;
+}
+
+UserControl& Control::root() const {
+  const Control* control = this;
+  while (control->container_) control = control->container_;
+  // Only user controls stand alone; everything else lies in a container.
+  return const_cast<UserControl&>(static_cast<const UserControl&>(*control));
+}
+
+Input& Control::input() const { return root().input(); }
+
+Platform& Control::platform() const { return root().site().platform(); }
+
+void Control::realise() {
+  if (!peer_) peer_ = platform().realise(*this);
+}
+
+void Control::dropPeer() {
+  if (!peer_) return;
+  peer_.reset();
+  invalidate();
+}
+
+Size Control::pixelSize() const {
+  return container_ ? container_->pixelBounds(*this).size() : bounds_.size();
+}
+
+Rect Control::onSurface() const {
+  if (!container_) return {0, 0, bounds_.width, bounds_.height};
+  return container_->pixelBounds(*this).translated(container_->onSurface().topLeft());
+}
+
+Rect Control::visibleOnSurface() const {
+  if (!container_) return onSurface();
+  const Rect outer = container_->visibleOnSurface();
+  return onSurface().intersected(outer);
+}
+
+bool Control::shown() const { return visible_ && (!container_ || container_->shown()); }
+
+Point Control::fromSurface(Point at) const { return at - onSurface().topLeft(); }
+
+void Control::invalidate() { invalidate({{}, {}, 1e9, 1e9}); }
+
+void Control::invalidate(const Rect& pixels) {
+  if (!visible_) return;
+  Rect area = pixels.intersected({0, 0, pixelSize().width, pixelSize().height});
+  const Control* control = this;
+  // Climbs to the surface; whatever is clipped away on the way needs no painting.
+  while (control->container_ && !control->peer_) {
+    const ContainerControl& container = *control->container_;
+    if (!container.visible_ || area.empty()) return;
+    area = area.translated(container.pixelBounds(*control).topLeft());
+    area = area.intersected({0, 0, container.pixelSize().width, container.pixelSize().height});
+    control = &container;
+  }
+  if (control->peer_ && !area.empty()) control->peer_->invalidate(area);
+}
+
+void Control::touched(Aspect aspect) {
+  if (peer_)
+    peer_->changed(aspect);
+  else
+    invalidate();
+}
+
+}  // namespace qrn::host

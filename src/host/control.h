@@ -1,0 +1,160 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+#include "base/event.h"
+#include "base/geometry.h"
+#include "base/weak_ref.h"
+#include "host/event_args.h"
+#include "host/input.h"
+#include "host/platform.h"
+#include "runtime/object.h"
+
+namespace qrn::host {
+
+class ContainerControl;
+class ControlWindow;
+class UserControl;
+
+/// When a control gets a native widget.
+enum class PeerPolicy : std::uint8_t { Never, WhenFocused, WhenShown, Surface };
+
+/// Everything that sits on a container. The public part is what a container adds to any control: its name and
+/// place, its visibility, the focus, and its events by name.
+class Control : public Object {
+ public:
+  Control();
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  ~Control() override;
+
+  const std::string& Name() const { return name_; }
+  /// The user control whose collection made this one; null for one that the host made.
+  UserControl* Parent() const { return parent_; }
+  /// Gives coordinates and clipping only.
+  ContainerControl* Container() const { return container_; }
+
+  bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+  bool Enabled() const { return enabled_; }
+  virtual void SetEnabled(bool enabled);
+  /// Stored as given.
+  std::int32_t TabIndex() const { return tabIndex_; }
+  void SetTabIndex(std::int32_t index) { tabIndex_ = index; }
+
+  double Left() const { return bounds_.left; }
+  double Top() const { return bounds_.top; }
+  double Width() const { return bounds_.width; }
+  double Height() const { return bounds_.height; }
+  const Rect& bounds() const { return bounds_; }
+  void SetLeft(double left) { Move(left, Top(), Width(), Height()); }
+  void SetTop(double top) { Move(Left(), top, Width(), Height()); }
+  void SetWidth(double width) { Move(Left(), Top(), width, Height()); }
+  void SetHeight(double height) { Move(Left(), Top(), Width(), height); }
+  void Move(double left, double top, double width, double height);
+
+  const std::string& ToolTipText() const;
+  virtual void SetToolTipText(std::string_view text);
+
+  /// Nothing happens to a control that can't take the focus.
+  void SetFocus();
+  /// The focus is on this control or on one inside it.
+  bool hasFocus() const;
+
+  /// A window for this control, made when it is first asked for, and kept.
+  std::int32_t hwnd();
+  /// The same, where a handle is wider than a Long.
+  WindowHandle window();
+
+  /// Every event of the control by its name, arguments by reference.
+  Event<std::string_view, EventArgs> ObjectEvent;
+
+  // ---- between controls and platforms ----
+
+  Anchor& anchor() { return anchor_; }
+  Platform& platform() const;
+  UserControl& root() const;
+  Input& input() const;
+
+  Peer* peer() const { return peer_.get(); }
+  virtual PeerPolicy peerPolicy() const { return PeerPolicy::Never; }
+  /// Makes the native widget if there is none yet and the platform has one for this control.
+  void realise();
+  void dropPeer();
+
+  /// The whole of the control, and what can be seen of it, in logical pixels of the surface.
+  Rect onSurface() const;
+  Rect visibleOnSurface() const;
+  /// Every control up to the surface is visible.
+  bool shown() const;
+  Size pixelSize() const;
+  Point fromSurface(Point at) const;
+
+  void invalidate();
+  void invalidate(const Rect& pixels);
+
+  /// Draws the control itself, not what it contains; `size` is in pixels.
+  virtual void paint(Surface&, Size /*size*/) {}
+  virtual bool acceptsFocus() const { return false; }
+  /// Where the focus goes that is given to this control.
+  virtual Control* focusTarget() { return acceptsFocus() ? this : nullptr; }
+  virtual std::intptr_t windowMessage(const Message& message);
+
+ protected:
+  friend class ContainerControl;
+  friend class Controls;
+  friend class Input;
+  friend struct LifeCycle;
+
+  virtual void moved(const Rect& /*before*/) {}
+  virtual void visibilityChanged() {}
+  /// The focus came to this control or one inside it, or left it.
+  virtual void gotFocus() {}
+  virtual void lostFocus() {}
+
+  /// Raises an event and hands it to the listeners by name, the control's own listeners first.
+  template <class... Args>
+  void raise(Event<Args...>& event, std::string_view name, std::type_identity_t<Args>... args) {
+    const WeakRef<Control> self(this);
+    event.raise(args...);
+    if (self && ObjectEvent.hasListeners()) {
+      if constexpr (sizeof...(Args) == 0) {
+        ObjectEvent.raise(name, EventArgs());
+      } else {
+        const EventArg list[] = {EventArg(args)...};
+        ObjectEvent.raise(name, EventArgs(list));
+      }
+    }
+  }
+
+  /// Stores a changed value and tells the peer, or has the place painted again.
+  template <class T>
+  bool change(T& field, const std::type_identity_t<T>& value, Aspect aspect) {
+    if (field == value) return false;
+    field = value;
+    touched(aspect);
+    return true;
+  }
+  void touched(Aspect aspect);
+
+ private:
+  struct Rare;  // what few controls have
+  Rare& rare();
+
+  std::string name_;
+  UserControl* parent_ = nullptr;
+  ContainerControl* container_ = nullptr;
+  Rect bounds_;
+  std::unique_ptr<Peer> peer_;
+  std::unique_ptr<Rare> rare_;
+  Anchor anchor_;
+  std::int32_t tabIndex_ = 0;
+  bool visible_ = true;
+  bool enabled_ = true;
+};
+
+}  // namespace qrn::host

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/alignment.h"
+#include "host/control.h"
+
+namespace qrn::host {
+
+class UserControl;
+
+/// What the standard controls that edit something have in common. All their state is here; the native widget
+/// that the focused one has is only its picture and its keyboard. A setter raises nothing; the entries that
+/// start with `user` are what the user did, and tell the control that holds the editor.
+class Editor : public Control {
+ public:
+  Color BackColor() const { return backColor_; }
+  void SetBackColor(Color color) { change(backColor_, color, Aspect::Look); }
+  Color ForeColor() const { return foreColor_; }
+  void SetForeColor(Color color) { change(foreColor_, color, Aspect::Look); }
+  std::int32_t Alignment() const { return alignment_; }
+  void SetAlignment(std::int32_t alignment) { change(alignment_, alignment, Aspect::Look); }
+  /// The holder's font until one is set.
+  const FontPtr& Font() const;
+  void SetFont(FontPtr font);
+
+  PeerPolicy peerPolicy() const override { return PeerPolicy::WhenFocused; }
+  bool acceptsFocus() const override { return Enabled() && Visible(); }
+
+  void paint(Surface& surface, Size size) override;
+
+  /// Grey when the editor can't be used.
+  Color textColor() const { return Enabled() ? foreColor_ : kGrayText; }
+
+ protected:
+  explicit Editor(Color backColor = kWindowBackground) : backColor_(backColor) {}
+  virtual void fontChanged() {}
+
+ private:
+  FontPtr font_;
+  Color backColor_;
+  Color foreColor_ = kWindowText;
+  std::int32_t alignment_ = kAlignLeft;
+};
+
+}  // namespace qrn::host

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstdint>
+
+#include "base/geometry.h"
+#include "base/weak_ref.h"
+
+namespace qrn::host {
+
+class Control;
+class UserControl;
+
+enum class MouseButton : std::int16_t { Left = 1, Right = 2, Middle = 4 };
+
+/// Bits of the shift state of keys and mouse events.
+namespace shift {
+inline constexpr std::int16_t None = 0;
+inline constexpr std::int16_t Shift = 1;
+inline constexpr std::int16_t Control = 2;
+inline constexpr std::int16_t Alt = 4;
+}  // namespace shift
+
+namespace key {
+inline constexpr std::int16_t Cancel = 3;
+inline constexpr std::int16_t Back = 8;
+inline constexpr std::int16_t Tab = 9;
+inline constexpr std::int16_t Enter = 13;
+inline constexpr std::int16_t Escape = 27;
+inline constexpr std::int16_t Space = 32;
+inline constexpr std::int16_t PageUp = 33;
+inline constexpr std::int16_t PageDown = 34;
+inline constexpr std::int16_t End = 35;
+inline constexpr std::int16_t Home = 36;
+inline constexpr std::int16_t Left = 37;
+inline constexpr std::int16_t Up = 38;
+inline constexpr std::int16_t Right = 39;
+inline constexpr std::int16_t Down = 40;
+inline constexpr std::int16_t Insert = 45;
+inline constexpr std::int16_t Delete = 46;
+inline constexpr std::int16_t F1 = 112;
+inline constexpr std::int16_t F4 = 115;
+inline constexpr std::int16_t F10 = 121;
+}  // namespace key
+
+/// The one door through which everything comes in that a user does with a native surface: each platform
+/// reports here, and so do tests. It knows which control of the surface has the focus, the mouse and the
+/// pointer over it. Points are logical pixels of the surface.
+class Input {
+ public:
+  explicit Input(UserControl& root) : root_(&root) {}
+
+  Control* focus() const { return focus_; }
+  /// Moves the focus, telling those that lose it before those that get it; null takes it off the surface.
+  void setFocus(Control* control);
+  /// To the next or previous tab stop; false at the end of the surface.
+  bool moveFocus(bool forward);
+  /// The native surface got the focus from outside, or lost it to something else of the application.
+  void surfaceGotFocus();
+  void surfaceLostFocus();
+
+  /// Answers the editor with a peer to which the platform has to deliver the same press, if any.
+  Control* mouseDown(MouseButton button, std::int16_t shift, Point at);
+  void mouseMove(std::int16_t buttons, std::int16_t shift, Point at);
+  void mouseUp(MouseButton button, std::int16_t shift, Point at);
+  void doubleClick(Point at);
+  /// Notches away from the user are positive. Answers whether somebody scrolled.
+  bool wheel(Point at, double notches);
+
+  /// Each answers whether the key is used up; otherwise the native editor does what it does with it.
+  bool keyDown(std::int16_t keyCode, std::int16_t shift);
+  bool keyUp(std::int16_t keyCode, std::int16_t shift);
+  /// Answers the character that remains, 0 for none; a listener may have replaced it.
+  std::int16_t keyPress(std::int16_t keyAscii);
+
+  /// The deepest visible control at a point.
+  Control* hit(Point at) const;
+
+  /// A control is about to go.
+  void forget(const Control& control);
+
+ private:
+  void settlePeers(Control* old);
+
+  UserControl* root_;
+  Control* focus_ = nullptr;
+  Control* capture_ = nullptr;
+  WeakRef<Control> lastFocus_;
+};
+
+}  // namespace qrn::host

@@ -1,0 +1,33 @@
+#include "host/list_box.h"
+
+#include "host/user_control.h"
+
+namespace qrn::host {
+
+void ListBox::SetSelected(std::int32_t index, bool selected) {
+  Entry& changed = entry(index);
+  if (changed.selected == selected) return;
+  changed.selected = selected;
+  touched(Aspect::Content);
+}
+
+void ListBox::userMovedTo(std::int32_t index) {
+  if (index < -1 || index >= ListCount()) return;
+  listIndex_ = index;
+  if (!peer()) invalidate();
+}
+
+void ListBox::userChecked(std::int16_t index) {
+  if (!Enabled() || index < 0 || index >= ListCount()) return;
+  Entry& changed = entry(index);
+  changed.selected = !changed.selected;
+  if (!peer()) invalidate();
+  Parent()->childItemChecked(*this, index);
+}
+
+void ListBox::gotFocus() {
+  // So that the focus mark can be seen.
+  if (ListIndex() == -1 && ListCount() > 0) SetListIndex(0);
+}
+
+}  // namespace qrn::host

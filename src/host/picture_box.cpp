@@ -1,0 +1,19 @@
+#include "host/picture_box.h"
+
+#include "host/user_control.h"
+
+namespace qrn::host {
+
+void PictureBox::scrollTo(double offset) {
+  if (offset == scrolledBy_) return;
+  scrolledBy_ = offset;
+  // The one editor with a native widget moves along; it is never hidden, which would cost it the focus.
+  if (Control* focus = input().focus(); focus && focus->peer()) focus->peer()->changed(Aspect::Place);
+  invalidate();
+}
+
+void PictureBox::moved(const Rect& before) {
+  if (before.size() != bounds().size() && Parent()) Parent()->childChanged(*this);
+}
+
+}  // namespace qrn::host

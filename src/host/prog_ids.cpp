@@ -1,0 +1,40 @@
+#include "host/prog_ids.h"
+
+#include "base/text.h"
+#include "host/check_box.h"
+#include "host/combo_box.h"
+#include "host/list_box.h"
+#include "host/text_box.h"
+#include "host/timer.h"
+#include "host/v_scroll_bar.h"
+#include "runtime/errors.h"
+
+namespace qrn::host {
+namespace {
+
+template <class T>
+Owned<Control> make() {
+  return Owned<Control>(new T);
+}
+
+constexpr ProgId kStandardClasses[] = {
+    {"VB.TextBox", make<TextBox>}, {"VB.CheckBox", make<CheckBox>},     {"VB.ComboBox", make<ComboBox>},
+    {"VB.ListBox", make<ListBox>}, {"VB.VScrollBar", make<VScrollBar>}, {"VB.Timer", make<Timer>},
+};
+
+std::span<const ProgId> controlClasses;
+
+}  // namespace
+
+void setControlClasses(std::span<const ProgId> classes) { controlClasses = classes; }
+
+Owned<Control> createByProgId(std::string_view progId) {
+  for (const auto list : {std::span<const ProgId>(kStandardClasses), controlClasses}) {
+    for (const ProgId& known : list) {
+      if (text::sameName(known.name, progId)) return known.create();
+    }
+  }
+  raiseRunTimeError(kCannotCreateObject, progId);
+}
+
+}  // namespace qrn::host

@@ -1,0 +1,302 @@
+#include "host/property_bag.h"
+
+#include <charconv>
+#include <fstream>
+#include <sstream>
+
+#include "base/text.h"
+#include "host/font.h"
+#include "host/picture.h"
+#include "runtime/conversions.h"
+#include "runtime/errors.h"
+
+namespace qrn::host {
+namespace {
+
+constexpr std::string_view kHeader = "QRNV16Controls2 properties 1";
+
+// ---- writing ----
+
+std::string inQuotes(std::string_view text) {
+  std::string result = "\"";
+  for (const char c : text) {
+    switch (c) {
+      case '"': result += "\\\""; break;
+      case '\\': result += "\\\\"; break;
+      case '\n': result += "\\n"; break;
+      case '\r': result += "\\r"; break;
+      case '\t': result += "\\t"; break;
+      default: result += c;
+    }
+  }
+  return result + '"';
+}
+
+// The shortest text that reads back as the same number.
+std::string exact(double number) {
+  char buffer[40];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
+  return {buffer, end};
+}
+
+std::string written(const Font& font) {
+  std::string result = "Font " + inQuotes(font.family) + ' ' + exact(font.size);
+  if (font.bold) result += " bold";
+  if (font.italic) result += " italic";
+  if (font.underline) result += " underline";
+  if (font.strikethrough) result += " strikethrough";
+  return result;
+}
+
+std::string writtenObject(const ObjectPtr& object) {
+  if (const auto* font = dynamic_cast<const Font*>(object.get())) return written(*font);
+  if (const auto* picture = dynamic_cast<const Picture*>(object.get())) return "Picture " + toText(*picture);
+  return "Empty";
+}
+
+std::string written(const Variant& value) {
+  switch (value.type()) {
+    case Variant::Type::Empty: return "Empty";
+    case Variant::Type::Null: return "Null";
+    case Variant::Type::Boolean: return *value.get<bool>() ? "True" : "False";
+    case Variant::Type::String: return inQuotes(*value.get<std::string>());
+    case Variant::Type::Object: return writtenObject(*value.get<ObjectPtr>());
+    case Variant::Type::Single: return "Single " + exact(static_cast<double>(*value.get<float>()));
+    case Variant::Type::Double: return "Double " + exact(*value.get<double>());
+    case Variant::Type::Date: return "Date " + exact(value.get<Date>()->serial);
+    case Variant::Type::Error: return "Error " + std::to_string(value.get<ErrorValue>()->number);
+    default: return std::string(typeName(value.type())) + ' ' + CStr(value);
+  }
+}
+
+// ---- reading ----
+
+/// One line of a bag's text, read from the left. Its errors name the file, the line and what was wrong.
+class LineReader {
+ public:
+  LineReader(std::string_view line, std::string_view file, int number)
+      : rest_(line), file_(file), number_(number) {}
+
+  [[noreturn]] void refuse(const std::string& what) const {
+    raiseRunTimeError(kInvalidFileFormat, "PropertyBag",
+                      std::string(file_) + ":" + std::to_string(number_) + ": " + what);
+  }
+
+  std::string_view word() {
+    skipBlanks();
+    const auto end = std::min(rest_.find_first_of(" \t="), rest_.size());
+    const std::string_view result = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    return result;
+  }
+
+  void expect(char wanted) {
+    skipBlanks();
+    if (rest_.empty() || rest_.front() != wanted) refuse(std::string("expected \"") + wanted + '"');
+    rest_.remove_prefix(1);
+  }
+
+  bool startsText() {
+    skipBlanks();
+    return !rest_.empty() && rest_.front() == '"';
+  }
+
+  std::string quotedText() {
+    expect('"');
+    std::string result;
+    while (true) {
+      if (rest_.empty()) refuse("the text has no closing quotation mark");
+      const char c = take();
+      if (c == '"') return result;
+      result += c == '\\' ? escaped() : c;
+    }
+  }
+
+  template <class Number>
+  Number number(std::string_view what) {
+    const std::string_view text = word();
+    Number value{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc() || end != text.data() + text.size()) {
+      refuse("\"" + std::string(text) + "\" is no " + std::string(what));
+    }
+    return value;
+  }
+
+  void expectEnd() {
+    skipBlanks();
+    if (!rest_.empty()) refuse("unexpected \"" + std::string(rest_.substr(0, 40)) + "\" after the value");
+  }
+
+ private:
+  void skipBlanks() { rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size())); }
+
+  char take() {
+    const char c = rest_.front();
+    rest_.remove_prefix(1);
+    return c;
+  }
+
+  char escaped() {
+    if (rest_.empty()) refuse("the text ends inside an escape");
+    switch (const char c = take()) {
+      case 'n': return '\n';
+      case 'r': return '\r';
+      case 't': return '\t';
+      case '"':
+      case '\\': return c;
+      default: refuse(std::string("unknown escape \"\\") + c + '"');
+    }
+  }
+
+  std::string_view rest_;
+  std::string_view file_;
+  int number_;
+};
+
+Variant readFont(LineReader& line) {
+  auto font = std::make_shared<Font>();
+  font->family = line.quotedText();
+  font->size = line.number<double>("font size");
+  for (std::string_view style = line.word(); !style.empty(); style = line.word()) {
+    if (style == "bold")
+      font->bold = true;
+    else if (style == "italic")
+      font->italic = true;
+    else if (style == "underline")
+      font->underline = true;
+    else if (style == "strikethrough")
+      font->strikethrough = true;
+    else
+      line.refuse("unknown font style \"" + std::string(style) + '"');
+  }
+  return font;
+}
+
+Variant readPicture(LineReader& line) {
+  try {
+    return std::const_pointer_cast<Picture>(pictureFromText(line.word()));
+  } catch (const RunTimeError& error) {
+    line.refuse(error.description());
+  }
+}
+
+// Currency and Decimal are written as plain digits, which the conversions read exactly.
+template <class Convert>
+Variant readExact(LineReader& line, std::string_view what, Convert convert) {
+  const std::string_view digits = line.word();
+  try {
+    return convert(Variant(digits));
+  } catch (const RunTimeError&) {
+    line.refuse("\"" + std::string(digits) + "\" is no " + std::string(what));
+  }
+}
+
+Variant readTyped(LineReader& line, std::string_view type) {
+  if (type == "True") return true;
+  if (type == "False") return false;
+  if (type == "Empty") return {};
+  if (type == "Null") return Null();
+  if (type == "Integer") return line.number<std::int16_t>("Integer");
+  if (type == "Long") return line.number<std::int32_t>("Long");
+  if (type == "Single") return line.number<float>("Single");
+  if (type == "Double") return line.number<double>("Double");
+  if (type == "Date") return Date{line.number<double>("Date")};
+  if (type == "Error") return ErrorValue{line.number<std::int32_t>("Error")};
+  if (type == "Currency") return readExact(line, type, [](const Variant& v) { return Variant(CCur(v)); });
+  if (type == "Decimal") return readExact(line, type, [](const Variant& v) { return Variant(CDec(v)); });
+  if (type == "Font") return readFont(line);
+  if (type == "Picture") return readPicture(line);
+  line.refuse("unknown type \"" + std::string(type) + '"');
+}
+
+PropertyBag::Item readItem(LineReader& line) {
+  PropertyBag::Item item;
+  item.key = line.word();
+  if (item.key.empty()) line.refuse("expected a property's name");
+  line.expect('=');
+  if (line.startsText())
+    item.value = line.quotedText();
+  else
+    item.value = readTyped(line, line.word());
+  line.expectEnd();
+  return item;
+}
+
+}  // namespace
+
+bool sameValue(const Variant& a, const Variant& b) {
+  const ObjectPtr *first = a.get<ObjectPtr>(), *second = b.get<ObjectPtr>();
+  if (!first || !second || !*first || !*second) return a == b;
+  const auto *fontA = dynamic_cast<const Font*>(first->get()),
+             *fontB = dynamic_cast<const Font*>(second->get());
+  if (fontA && fontB) return *fontA == *fontB;
+  const auto *pictureA = dynamic_cast<const Picture*>(first->get()),
+             *pictureB = dynamic_cast<const Picture*>(second->get());
+  if (pictureA && pictureB) return *pictureA == *pictureB;
+  return a == b;
+}
+
+const Variant* PropertyBag::find(std::string_view key) const {
+  for (const Item& item : items_) {
+    if (text::sameName(item.key, key)) return &item.value;
+  }
+  return nullptr;
+}
+
+Variant PropertyBag::readProperty(std::string_view key, const Variant& defaultValue) const {
+  const Variant* kept = find(key);
+  return kept ? *kept : defaultValue;
+}
+
+void PropertyBag::writeProperty(std::string_view key, const Variant& value, const Variant& defaultValue) {
+  std::erase_if(items_, [key](const Item& item) { return text::sameName(item.key, key); });
+  if (!sameValue(value, defaultValue)) items_.push_back({std::string(key), value});
+}
+
+std::string PropertyBag::toText() const {
+  std::string result(kHeader);
+  result += '\n';
+  for (const Item& item : items_) result += item.key + " = " + written(item.value) + '\n';
+  return result;
+}
+
+PropertyBag PropertyBag::fromText(std::string_view text, std::string_view name) {
+  PropertyBag bag;
+  int number = 0;
+  while (!text.empty() || number == 0) {
+    const auto end = std::min(text.find('\n'), text.size());
+    const std::string_view line = text::trimmed(text.substr(0, end));
+    text.remove_prefix(std::min(end + 1, text.size()));
+    LineReader reader(line, name, ++number);
+    if (number == 1) {
+      if (line != kHeader) reader.refuse("expected \"" + std::string(kHeader) + '"');
+      continue;
+    }
+    if (line.empty()) continue;
+    Item item = readItem(reader);
+    if (bag.find(item.key)) reader.refuse("property \"" + item.key + "\" stands here a second time");
+    bag.items_.push_back(std::move(item));
+  }
+  return bag;
+}
+
+void PropertyBag::save(const std::filesystem::path& file) const {
+  std::ofstream out(file, std::ios::binary);
+  out << toText();
+  out.close();
+  if (!out) raiseRunTimeError(kFileNotFound, "PropertyBag", file.string() + ": can't be written");
+}
+
+PropertyBag PropertyBag::load(const std::filesystem::path& file) {
+  std::error_code ignored;
+  std::ifstream in(file, std::ios::binary);
+  if (!in || std::filesystem::is_directory(file, ignored)) {
+    raiseRunTimeError(kFileNotFound, "PropertyBag", file.string() + ": can't be read");
+  }
+  std::ostringstream text;
+  text << in.rdbuf();
+  return fromText(text.str(), file.string());
+}
+
+}  // namespace qrn::host

@@ -1,0 +1,88 @@
+#include "host/text_box.h"
+
+#include <algorithm>
+
+#include "base/text.h"
+#include "host/user_control.h"
+
+namespace qrn::host {
+namespace {
+
+std::string upperCased(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    char32_t c = text::next(text, at);
+    const bool latin = (c >= 'a' && c <= 'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
+    text::append(result, latin ? c - 32 : c);
+  }
+  return result;
+}
+
+}  // namespace
+
+void TextBox::store(std::string text) {
+  text_ = std::move(text);
+  textWidth_ = kUnknown;
+}
+
+void TextBox::SetText(std::string_view text) {
+  if (text == text_) return;
+  store(std::string(text));
+  selStart_ = selLength_ = 0;
+  touched(Aspect::Content);
+}
+
+void TextBox::SetPasswordChar(std::string_view character) {
+  if (character == passwordChar_) return;
+  passwordChar_ = character;
+  textWidth_ = kUnknown;
+  touched(Aspect::Look);
+}
+
+void TextBox::select(std::int32_t start, std::int32_t length) {
+  const auto end = static_cast<std::int32_t>(text::length(text_));
+  selStart_ = std::clamp(start, 0, end);
+  selLength_ = std::clamp(length, 0, end - selStart_);
+  touched(Aspect::Content);
+}
+
+std::string TextBox::shownText() const {
+  if (passwordChar_.empty()) return text_;
+  std::string stars;
+  for (std::size_t i = text::length(text_); i > 0; --i) stars += passwordChar_;
+  return stars;
+}
+
+double TextBox::textWidth() const {
+  if (textWidth_ == kUnknown) textWidth_ = Parent()->TextWidth(text_);
+  return textWidth_;
+}
+
+void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength) {
+  std::string wanted(text);
+  if (upperCase_) wanted = upperCased(wanted);
+  if (maxLength_ > 0) wanted = text::slice(wanted, 0, static_cast<std::size_t>(maxLength_));
+  if (locked_) wanted = text_;
+  const bool corrected = wanted != text;
+  const bool changed = wanted != text_;
+  if (changed) store(std::move(wanted));
+  const auto end = static_cast<std::int32_t>(text::length(text_));
+  selStart_ = std::clamp(selStart, 0, end);
+  selLength_ = std::clamp(selLength, 0, end - selStart_);
+  if (corrected && peer()) peer()->changed(Aspect::Content);
+  if (changed) Parent()->childChanged(*this);
+}
+
+void TextBox::userSelected(std::int32_t start, std::int32_t length) {
+  selStart_ = start;
+  selLength_ = length;
+}
+
+std::intptr_t TextBox::windowMessage(const Message& message) {
+  constexpr std::intptr_t kWantsChars = 0x80, kHasSetSel = 0x08, kWantsArrows = 0x01;
+  if (message.number == wm::GetDlgCode) return kWantsChars | kHasSetSel | kWantsArrows;
+  return Editor::windowMessage(message);
+}
+
+}  // namespace qrn::host

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/editor.h"
+
+namespace qrn::host {
+
+/// One line of text to edit.
+class TextBox final : public Editor {
+ public:
+  std::string_view typeName() const override { return "TextBox"; }
+
+  const std::string& Text() const { return text_; }
+  void SetText(std::string_view text);
+  bool Locked() const { return locked_; }
+  void SetLocked(bool locked) { change(locked_, locked, Aspect::Enabled); }
+  /// In code points; 0 sets no limit.
+  std::int32_t MaxLength() const { return maxLength_; }
+  void SetMaxLength(std::int32_t length) { change(maxLength_, length, Aspect::Look); }
+  /// Shown for every character; empty shows the text.
+  const std::string& PasswordChar() const { return passwordChar_; }
+  void SetPasswordChar(std::string_view character);
+  bool upperCase() const { return upperCase_; }
+  void setUpperCase(bool upperCase) { change(upperCase_, upperCase, Aspect::Look); }
+
+  std::int32_t SelStart() const { return selStart_; }
+  std::int32_t SelLength() const { return selLength_; }
+  /// Both in code points; kept inside the text.
+  void select(std::int32_t start, std::int32_t length);
+
+  /// What a person sees in the box.
+  std::string shownText() const;
+  /// The width of the shown text in the holder's scale units. Measured once for each text and font.
+  double textWidth() const;
+
+  void userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength = 0);
+  void userSelected(std::int32_t start, std::int32_t length);
+
+  std::intptr_t windowMessage(const Message& message) override;
+
+ protected:
+  void fontChanged() override { textWidth_ = kUnknown; }
+
+ private:
+  void store(std::string text);
+
+  static constexpr double kUnknown = -1;
+
+  std::string text_;
+  std::string passwordChar_;
+  mutable double textWidth_ = kUnknown;
+  std::int32_t maxLength_ = 0;
+  std::int32_t selStart_ = 0;
+  std::int32_t selLength_ = 0;
+  bool locked_ = false;
+  bool upperCase_ = false;
+};
+
+}  // namespace qrn::host

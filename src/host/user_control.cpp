@@ -1,0 +1,165 @@
+#include "host/user_control.h"
+
+#include "host/class_table.h"
+#include "host/prog_ids.h"
+#include "runtime/errors.h"
+
+namespace qrn::host {
+namespace {
+
+// Pixels of one unit of each scale mode, at 96 pixels to the inch.
+Point pixelsOf(std::int16_t scaleMode) {
+  constexpr double kInch = 96;
+  switch (scaleMode) {
+    case 1: return {kInch / 1440, kInch / 1440};  // twips
+    case 2: return {kInch / 72, kInch / 72};      // points
+    case 4: return {kInch / 12, kInch / 6};       // characters of 120 by 240 twips
+    case 5: return {kInch, kInch};                // inches
+    case 6: return {kInch / 25.4, kInch / 25.4};  // millimetres
+    case 7: return {kInch / 2.54, kInch / 2.54};  // centimetres
+    case 8: return {kInch / 2540, kInch / 2540};  // hundredths of a millimetre
+    default: return {1, 1};
+  }
+}
+
+}  // namespace
+
+UserControl::UserControl() : controls_(std::make_unique<Controls>(*this)) {}
+
+UserControl::~UserControl() = default;
+
+Input& UserControl::input() {
+  if (Container()) return root().input();
+  if (!input_) input_ = std::make_unique<Input>(*this);
+  return *input_;
+}
+
+Point UserControl::pixelsPerUnit() const { return pixelsOf(scaleMode_); }
+
+FontMetrics& UserControl::fontMetrics() const {
+  if (!metrics_) metrics_ = &platform().metrics(*font_);
+  return *metrics_;
+}
+
+double UserControl::TextWidth(std::string_view text) const {
+  return fontMetrics().advance(text) / pixelsPerUnit().x;
+}
+
+double UserControl::TextHeight(std::string_view) const { return fontMetrics().height() / pixelsPerUnit().y; }
+
+Ambient UserControl::ambient() const { return {userMode(), font_, backColor_, foreColor_}; }
+
+void UserControl::initProperties() {
+  const Ambient ambient = site_->ambient();
+  backColor_ = ambient.backColor;
+  foreColor_ = ambient.foreColor;
+}
+
+void UserControl::readProperties(const PropertyBag& bag) { restoreProperties(*this, bag); }
+
+void UserControl::writeProperties(PropertyBag& bag) const { saveProperties(*this, bag); }
+
+void UserControl::setFont(FontPtr font) {
+  font_ = font ? std::move(font) : platform().defaultFont();
+  metrics_ = nullptr;
+  invalidate();
+}
+
+void UserControl::setBackColor(Color color) {
+  backColor_ = color;
+  invalidate();
+}
+
+void UserControl::setForeColor(Color color) {
+  foreColor_ = color;
+  invalidate();
+}
+
+void UserControl::moved(const Rect& before) {
+  if (alive_ && before.size() != bounds().size()) resize();
+}
+
+void UserControl::visibilityChanged() {
+  if (!alive_) return;
+  if (Visible())
+    show();
+  else
+    hide();
+}
+
+void UserControl::gotFocus() { raise(GotFocus, "GotFocus"); }
+
+void UserControl::lostFocus() { raise(LostFocus, "LostFocus"); }
+
+void LifeCycle::start(UserControl& control, Site& site, const PropertyBag* bag) {
+  control.site_ = &site;
+  const Ambient ambient = site.ambient();
+  control.font_ = ambient.font ? ambient.font : site.platform().defaultFont();
+  control.alive_ = true;
+  control.initialize();
+  if (bag)
+    control.readProperties(*bag);
+  else
+    control.initProperties();
+  control.resize();
+  if (control.Visible()) control.show();
+}
+
+void LifeCycle::startChild(Control& control, UserControl& parent, std::string_view name,
+                           ContainerControl& container) {
+  auto* user = dynamic_cast<UserControl*>(&control);
+  if (!user) {
+    container.contain(control, parent, name);
+    return;
+  }
+  user->site_ = &parent;
+  user->font_ = parent.font();
+  user->alive_ = true;
+  user->initialize();
+  container.contain(control, parent, name);
+  user->initProperties();
+  user->resize();
+  if (user->Visible()) user->show();
+}
+
+void LifeCycle::end(Control& control) {
+  auto* user = dynamic_cast<UserControl*>(&control);
+  if (!user) return;
+  if (user->alive_) user->terminate();
+  user->alive_ = false;
+  user->controls_->clear();
+}
+
+void Destroyer::operator()(Control* control) const {
+  LifeCycle::end(*control);
+  delete control;
+}
+
+Control& Controls::add(std::string_view progId, std::string_view name, ContainerControl& container) {
+  return add(createByProgId(progId), name, container);
+}
+
+Control& Controls::add(Owned<Control> control, std::string_view name, ContainerControl& container) {
+  if (list_.find(name)) raiseRunTimeError(kControlNameUsed, owner_.typeName());
+  Control& added = *control;
+  list_.add(std::string(name), std::move(control));
+  LifeCycle::startChild(added, owner_, name, container);
+  return added;
+}
+
+void Controls::remove(std::string_view name) {
+  const auto* entry = list_.find(name);
+  if (!entry) raiseRunTimeError(kControlNotFound, owner_.typeName());
+  const Owned<Control> gone = list_.take(entry->position);
+}
+
+Control* Controls::find(std::string_view name) const {
+  const auto* entry = list_.find(name);
+  return entry ? entry->value.get() : nullptr;
+}
+
+void Controls::clear() {
+  while (list_.count() > 0) const Owned<Control> gone = list_.take(list_.count());
+}
+
+}  // namespace qrn::host

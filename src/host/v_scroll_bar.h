@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/control.h"
+
+namespace qrn::host {
+
+/// A vertical scroll bar. It never takes the focus.
+class VScrollBar final : public Control {
+ public:
+  std::string_view typeName() const override { return "VScrollBar"; }
+
+  std::int32_t Min() const { return min_; }
+  std::int32_t Max() const { return max_; }
+  void SetMax(std::int32_t max);
+  std::int32_t Value() const { return value_; }
+  /// Errors: 380 outside Min to Max.
+  void SetValue(std::int32_t value);
+  std::int32_t LargeChange() const { return largeChange_; }
+  void SetLargeChange(std::int32_t change) { this->change(largeChange_, change, Aspect::Range); }
+  std::int32_t SmallChange() const { return smallChange_; }
+  void SetSmallChange(std::int32_t change) { this->change(smallChange_, change, Aspect::Range); }
+
+  PeerPolicy peerPolicy() const override { return PeerPolicy::WhenShown; }
+  /// Makes the native widget where the surface has one.
+  void realiseWithSurface();
+
+  void userScrolled(std::int32_t value);
+
+  void paint(Surface& surface, Size size) override;
+
+ protected:
+  void visibilityChanged() override { realiseWithSurface(); }
+
+ private:
+  std::int32_t min_ = 0;
+  std::int32_t max_ = 32767;
+  std::int32_t value_ = 0;
+  std::int32_t largeChange_ = 1;
+  std::int32_t smallChange_ = 1;
+};
+
+}  // namespace qrn::host
