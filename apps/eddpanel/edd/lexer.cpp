@@ -33,7 +33,7 @@ std::string Token::shown() const {
 }
 
 std::string inQuotes(std::string_view name) {
-  constexpr std::size_t longest = 60;
+  constexpr std::size_t longest = 120;
   if (name.size() <= longest) return '"' + std::string(name) + '"';
   return '"' + std::string(name.substr(0, longest)) + "...\"";
 }

@@ -41,7 +41,7 @@ void Preprocessor::enter(const SourceText& source, const Token& at) {
   const bool open = std::any_of(files_.begin(), files_.end(), [&source](const File& file) {
     return file.lexer.source().name == source.name;
   });
-  if (open) fail(at, inQuotes(source.name) + " includes itself: " + includeChain(source));
+  if (open) fail(at, "the file includes itself: " + includeChain(source));
   if (files_.size() >= maximumIncludeDepth)
     fail(at, "includes nest deeper than " + std::to_string(maximumIncludeDepth) + " files");
   bytes_ += source.text.size();
