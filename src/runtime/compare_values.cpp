@@ -13,12 +13,14 @@ bool isTextOrEmpty(const Variant& value) { return value.isString() || value.isEm
 
 bool isExact(const Variant& value) { return value.type() == Type::Decimal || value.type() == Type::Currency; }
 
-// A double as far as a Decimal reaches.
-bool isInDecimalRange(const Variant& value) { return std::fabs(CDbl(value)) < 7.9e28; }
+bool fitsDecimal(const Variant& value) {
+  constexpr double kSafelyBelowTheLargest = 7.9e28;
+  return isExact(value) || std::fabs(CDbl(value)) < kSafelyBelowTheLargest;
+}
 
 std::partial_ordering compareNumbers(const Variant& left, const Variant& right) {
   const bool exact = isExact(left) || isExact(right);
-  if (exact && isInDecimalRange(left) && isInDecimalRange(right)) return CDec(left) <=> CDec(right);
+  if (exact && fitsDecimal(left) && fitsDecimal(right)) return CDec(left) <=> CDec(right);
   return CDbl(left) <=> CDbl(right);
 }
 

@@ -23,9 +23,10 @@ std::string_view runTimeErrorText(std::int32_t number) {
   }
 }
 
-void raiseRunTimeError(std::int32_t number, std::string_view source, std::string_view description) {
+void raiseRunTimeError(std::int32_t number, std::string_view source,
+                       std::optional<std::string_view> description) {
   throw RunTimeError(number, std::string(source),
-                     std::string(description.empty() ? runTimeErrorText(number) : description));
+                     std::string(description.value_or(runTimeErrorText(number))));
 }
 
 }  // namespace qrn

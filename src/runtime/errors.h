@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -46,7 +47,7 @@ std::string_view runTimeErrorText(std::int32_t number);
 
 /// The one place that throws. A missing description is the run-time's own text of the number.
 [[noreturn]] void raiseRunTimeError(std::int32_t number, std::string_view source = {},
-                                    std::string_view description = {});
+                                    std::optional<std::string_view> description = {});
 
 /// Marks a place where run-time errors are swallowed on purpose; says whether the action went through.
 template <class Action>
