@@ -1,7 +1,6 @@
 #include "runtime/date_format.h"
 
-#include <array>
-#include <initializer_list>
+#include <cstddef>
 
 namespace qrn {
 namespace {
@@ -137,11 +136,14 @@ void DateFormat::write(std::string& out, const Moment& moment) const {
 }
 
 void DateFormat::writePart(std::string& out, Part part, const Moment& moment) const {
-  const bool written = part == Part::DateSeparator   ? (out += moment.locale.dateSeparator, true)
-                       : part == Part::TimeSeparator ? (out += moment.locale.timeSeparator, true)
-                                                     : writeDayPart(out, part, moment);
-  if (written || writeMonthPart(out, part, moment) || writeTimePart(out, part, moment)) return;
-  if (!moment.nested) writeLocalPattern(out, part, moment);
+  if (part == Part::DateSeparator) {
+    out += moment.locale.dateSeparator;
+  } else if (part == Part::TimeSeparator) {
+    out += moment.locale.timeSeparator;
+  } else if (!writeDayPart(out, part, moment) && !writeMonthPart(out, part, moment) &&
+             !writeTimePart(out, part, moment) && !moment.nested) {
+    writeLocalPattern(out, part, moment);
+  }
 }
 
 bool DateFormat::writeDayPart(std::string& out, Part part, const Moment& moment) {

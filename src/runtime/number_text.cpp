@@ -160,13 +160,11 @@ std::optional<NumberText> readNumberText(std::string_view text, const Locale& lo
 
 double toDouble(const NumberText& number) {
   if (number.digits.empty()) return number.negative ? -0.0 : 0.0;
-  const std::int64_t magnitude = static_cast<std::int64_t>(number.digits.size()) + number.exponent;
-  if (magnitude > 400) raiseRunTimeError(kOverflow);
-  if (magnitude < -400) return number.negative ? -0.0 : 0.0;
   const std::string text = number.digits + "e" + std::to_string(number.exponent);
   double value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
   if (result.ec == std::errc::result_out_of_range) {
+    const std::int64_t magnitude = static_cast<std::int64_t>(number.digits.size()) + number.exponent;
     if (magnitude > 0) raiseRunTimeError(kOverflow);
     value = 0;
   }
