@@ -21,9 +21,7 @@ struct EventSlot {
   int keepers = 0;
 
   void keep() { ++keepers; }
-  void letGo() {
-    if (--keepers == 0) delete this;
-  }
+  void letGo();
 };
 
 class EventBase {
@@ -37,22 +35,10 @@ class EventBase {
 
   bool hasListeners() const { return first_ != nullptr; }
 
-  void drop(EventSlot& slot) {
-    EventSlot** at = &first_;
-    while (*at != &slot) at = &(*at)->next;
-    *at = slot.next;
-    slot.event = nullptr;
-    slot.letGo();
-  }
+  void drop(EventSlot& slot);
 
  protected:
-  void append(EventSlot& slot) {
-    EventSlot** end = &first_;
-    while (*end) end = &(*end)->next;
-    *end = &slot;
-    slot.event = this;
-    slot.keep();
-  }
+  void append(EventSlot& slot);
 
   /// The listeners of one raise, kept until it is over.
   class Snapshot {

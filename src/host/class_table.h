@@ -206,7 +206,8 @@ Property property(std::string_view name, std::int32_t id) {
     return toVariant<typename Member::Value>((static_cast<typename Member::Class&>(control).*Get)());
   };
   result.write = [](UserControl& control, const Variant& value) {
-    (static_cast<typename Member::Class&>(control).*Set)(fromVariant<typename Member::Value>(value));
+    using Owner = typename detail::MemberOf<decltype(Set)>::Class;
+    (static_cast<Owner&>(control).*Set)(fromVariant<typename Member::Value>(value));
   };
   return result;
 }

@@ -121,7 +121,9 @@ Input& Control::input() const { return root().input(); }
 Platform& Control::platform() const { return root().site().platform(); }
 
 void Control::realise() {
-  if (!peer_) peer_ = platform().realise(*this);
+  if (peer_) return;
+  peer_ = platform().realise(*this);
+  if (peer_) realised();
 }
 
 void Control::dropPeer() {

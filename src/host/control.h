@@ -112,6 +112,8 @@ class Control : public Object {
 
   virtual void moved(const Rect& /*before*/) {}
   virtual void visibilityChanged() {}
+  /// The native widget has just been made.
+  virtual void realised() {}
   /// The focus came to this control or one inside it, or left it.
   virtual void gotFocus() {}
   virtual void lostFocus() {}

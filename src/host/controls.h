@@ -36,6 +36,8 @@ class Controls {
   void clear();
 
  private:
+  bool ownPart(std::string_view name) const;
+
   UserControl& owner_;
   KeyedList<Owned<Control>> list_;
 };

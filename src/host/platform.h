@@ -60,7 +60,13 @@ class AutomationObject : public Object {
 /// What a machine can do. Everything belongs to the thread that made it.
 class Platform {
  public:
-  virtual ~Platform() = default;
+  Platform();
+  Platform(const Platform&) = delete;
+  Platform& operator=(const Platform&) = delete;
+  virtual ~Platform();
+
+  /// The one that this thread made last and still has, or null.
+  static Platform* current();
 
   /// The native widget of a control, or null when it needs none.
   virtual std::unique_ptr<Peer> realise(Control& control) = 0;

@@ -1,5 +1,8 @@
 #include "host/user_control.h"
 
+#include <algorithm>
+
+#include "base/text.h"
 #include "host/class_table.h"
 #include "host/prog_ids.h"
 #include "runtime/errors.h"
@@ -140,11 +143,18 @@ Control& Controls::add(std::string_view progId, std::string_view name, Container
 }
 
 Control& Controls::add(Owned<Control> control, std::string_view name, ContainerControl& container) {
-  if (list_.find(name)) raiseRunTimeError(kControlNameUsed, owner_.typeName());
+  if (list_.find(name) || ownPart(name)) raiseRunTimeError(kControlNameUsed, owner_.typeName());
   Control& added = *control;
   list_.add(std::string(name), std::move(control));
   LifeCycle::startChild(added, owner_, name, container);
   return added;
+}
+
+// The parts that the owner was built with bear names too, but are not in the collection.
+bool Controls::ownPart(std::string_view name) const {
+  const auto& parts = owner_.contained();
+  return std::any_of(parts.begin(), parts.end(),
+                     [&](const Control* c) { return text::sameName(c->Name(), name); });
 }
 
 void Controls::remove(std::string_view name) {

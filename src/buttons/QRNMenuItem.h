@@ -1,0 +1,137 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "buttons/context_menu.h"
+#include "enums/enumerations.h"
+#include "host/picture.h"
+#include "host/timer.h"
+#include "host/user_control.h"
+
+namespace qrn {
+
+/// A push button that draws itself: caption, icon, a frame that depends on its mode, and a menu that pops up.
+class QRNMenuItem final : public host::UserControl {
+ public:
+  QRNMenuItem();
+  ~QRNMenuItem() override;
+  std::string_view typeName() const override { return "QRNMenuItem"; }
+  const host::ClassTable& classTable() const override;
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(const std::string& caption) { store(caption_, caption, "Caption"); }
+  host::Color BackColor() const { return backColor(); }
+  void SetBackColor(host::Color color);
+  const host::FontPtr& Font() const { return font(); }
+  void SetFont(host::FontPtr font);
+  host::Color ForeColor() const { return foreColor(); }
+  void SetForeColor(host::Color color);
+  std::int32_t Alignment() const { return alignment_; }
+  void SetAlignment(std::int32_t alignment) { store(alignment_, alignment, "Alignment"); }
+  bool ShowFocusRect() const { return showFocusRect_; }
+  void SetShowFocusRect(bool show) { store(showFocusRect_, show, "ShowFocusRect"); }
+  /// Pixels.
+  std::int32_t Margin() const { return margin_; }
+  void SetMargin(std::int32_t margin) { store(margin_, margin, "Margin"); }
+  /// 0 none, 1 a single line.
+  std::int16_t BorderStyle() const { return borderStyle_; }
+  void SetBorderStyle(std::int16_t style) { store(borderStyle_, style, "BorderStyle"); }
+  using Control::Enabled;
+  void SetEnabled(bool enabled) override;
+  qrnButtonMode ButtonMode() const { return buttonMode_; }
+  void SetButtonMode(qrnButtonMode mode);
+  const host::PicturePtr& Icon() const { return icon_; }
+  void SetIcon(host::PicturePtr icon);
+  const host::PicturePtr& IconDisabled() const { return iconDisabled_; }
+  void SetIconDisabled(host::PicturePtr icon);
+  std::int32_t IconAlignment() const { return iconAlignment_; }
+  void SetIconAlignment(std::int32_t alignment) { store(iconAlignment_, alignment, "IconAlignment"); }
+  bool AutoShadeIcon() const { return autoShadeIcon_; }
+  void SetAutoShadeIcon(bool shade) { store(autoShadeIcon_, shade, "AutoShadeIcon"); }
+
+  /// Run time only. Errors: 394 when read and 383 when set at design time.
+  bool Redraw() const;
+  void SetRedraw(bool redraw);
+
+  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption);
+  /// Null for an index where nothing is loaded.
+  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) const;
+  void RemoveMenuItem(std::int32_t Index);
+  void RemoveMenu();
+
+  Event<> Click;
+  Event<std::int16_t&> MenuClick;
+  Event<std::int16_t&, std::int16_t&> KeyDown;
+  Event<std::int16_t&> KeyPress;
+  Event<std::int16_t&, std::int16_t&> KeyUp;
+
+  /// Breaks a text into lines no wider than a width, between words where that is possible.
+  std::string WrapCaption(std::string text, double width) const;
+
+  void paint(host::Surface& surface, Size size) override;
+  bool acceptsFocus() const override { return Enabled() && Visible(); }
+
+  void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
+  void mouseMove(std::int16_t buttons, std::int16_t shift, Point at) override;
+  void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  void keyDown(std::int16_t& keyCode, std::int16_t& shift) override;
+  void keyPress(std::int16_t& keyAscii) override;
+  void keyUp(std::int16_t& keyCode, std::int16_t& shift) override;
+
+ protected:
+  void initProperties() override;
+  void resize() override { invalidate(); }
+  void show() override;
+  void terminate() override;
+  void gotFocus() override;
+  void lostFocus() override;
+
+ private:
+  friend struct QRNMenuItemTable;
+
+  template <class T>
+  void store(T& field, const T& value, std::string_view key) {
+    if (field == value) return;
+    field = value;
+    propertyChanged(key);
+    invalidate();
+  }
+
+  bool takesClicks() const { return buttonMode_ != qrnbuttonNone; }
+  bool isInside(Point at) const;
+  bool isCursorOver();
+  bool doClick();
+  void startHitTracking();
+  void stopHitTracking();
+  void showContextMenu(bool atKeyboard);
+
+  const host::PicturePtr& shownIcon() const;
+  double paintIcon(host::Surface& surface, Size size, double lineHeight);
+  void paintCaption(host::Surface& surface, Size size, double iconSlotWidth, double lineHeight);
+  void paintFrame(host::Surface& surface, Size size);
+  void paintFocus(host::Surface& surface, Size size);
+
+  std::string caption_ = "Menu";
+  host::PicturePtr icon_;
+  host::PicturePtr iconDisabled_;
+  std::unique_ptr<ContextMenu> menu_;
+  host::Timer* tmrHit_ = nullptr;
+  Connection tick_;
+  std::int32_t alignment_ = 0;
+  std::int32_t iconAlignment_ = 0;
+  std::int32_t margin_ = 6;
+  qrnButtonMode buttonMode_ = qrnButtonFlat;
+  std::int16_t borderStyle_ = 0;
+  bool showFocusRect_ = false;
+  bool autoShadeIcon_ = false;
+  bool redraw_ = false;
+  bool mouseOver_ = false;
+  bool leftButtonDown_ = false;
+  bool rightButtonDown_ = false;
+  bool spacePressed_ = false;
+  bool hasFocus_ = false;
+  bool keyboardFocus_ = false;
+};
+
+}  // namespace qrn

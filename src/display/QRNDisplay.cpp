@@ -1,0 +1,202 @@
+#include "display/QRNDisplay.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "diag/QRNErrors.h"
+#include "runtime/errors.h"
+
+namespace qrn {
+namespace {
+
+constexpr double kTitleButton = 16;
+
+}  // namespace
+
+QRNDisplay::QRNDisplay() : items_(std::make_shared<clsQRNCollection>()) {}
+
+QRNDisplay::~QRNDisplay() = default;
+
+void QRNDisplay::initialize() {
+  contain(lblTitle_, *this, "lblTitle");
+  contain(imgMaxRst_, *this, "imgMaxRst");
+  contain(imgClose_, *this, "imgClose");
+  contain(pbxContainer_, *this, "pbxContainer");
+  contain(sbrVertical_, *this, "sbrVertical");
+  imgMaxRst_.Move(0, 0, kTitleButton, kTitleButton);
+  imgClose_.Move(0, 0, kTitleButton, kTitleButton);
+  sbrVertical_.SetVisible(false);
+  sbrVertical_.SetMax(0);
+  items_->SetDisplay(*this);
+  Move(0, 0, 480, 360);
+}
+
+void QRNDisplay::show() {
+  if (redraw_) return;
+  redraw_ = true;
+  applyTitleLook();
+  arrange();
+}
+
+QRNImageList& QRNDisplay::ImageList() {
+  if (!imageList_) {
+    host::Control* own = controls().find("imlImages");
+    if (!own) own = &controls().add("QRNV16Controls2.QRNImageList", "imlImages", *this);
+    imageList_ = WeakRef<QRNImageList>(static_cast<QRNImageList*>(own));
+  }
+  return *imageList_;
+}
+
+// ---- setters ----
+
+void QRNDisplay::SetTitle(const std::string& title) {
+  if (title == Title()) return;
+  lblTitle_.SetCaption(title);
+  propertyChanged("Title");
+}
+
+void QRNDisplay::SetBackColor(host::Color color) {
+  if (color == backColor()) return;
+  setBackColor(color);
+  propertyChanged("BackColor");
+}
+
+void QRNDisplay::SetForeColor(host::Color color) {
+  if (color == foreColor()) return;
+  setForeColor(color);
+  propertyChanged("ForeColor");
+}
+
+void QRNDisplay::SetFont(host::FontPtr font) {
+  if (font == this->font()) return;
+  setFont(std::move(font));
+  lblTitle_.fontChanged();
+  propertyChanged("Font");
+  arrange();
+}
+
+void QRNDisplay::SetEnabled(bool enabled) {
+  if (enabled == Enabled()) return;
+  UserControl::SetEnabled(enabled);
+  sbrVertical_.SetEnabled(enabled);
+  propertyChanged("Enabled");
+}
+
+void QRNDisplay::SetMaximized(bool maximized) {
+  store(maximized_, maximized, "Maximized", After::Nothing);
+  applyTitleLook();
+}
+
+void QRNDisplay::SetIconCloseHidden(bool hidden) {
+  store(iconCloseHidden_, hidden, "IconCloseHidden", After::Nothing);
+  applyTitleLook();
+}
+
+void QRNDisplay::SetIconMaxRstHidden(bool hidden) {
+  store(iconMaxRstHidden_, hidden, "IconMaxRstHidden", After::Nothing);
+  applyTitleLook();
+}
+
+void QRNDisplay::SetTitleStyle(qrnTitleStyle style) {
+  if (style == titleStyle_) return;
+  titleStyle_ = style;
+  propertyChanged("TitleStyle");
+  applyTitleLook();
+  arrange();
+}
+
+bool QRNDisplay::Redraw() const {
+  if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
+  return redraw_;
+}
+
+void QRNDisplay::SetRedraw(bool redraw) {
+  if (!userMode()) RaiseError(kSetNotAtDesignTime, *this);
+  const bool switchedOn = redraw && !redraw_;
+  redraw_ = redraw;
+  if (switchedOn) arrange();
+}
+
+void QRNDisplay::SetMaxButtonToolTip(const std::string& text) {
+  store(maxButtonToolTip_, text, "MaxButtonToolTip", After::Nothing);
+  applyTitleLook();
+}
+
+void QRNDisplay::SetRstButtonToolTip(const std::string& text) {
+  store(rstButtonToolTip_, text, "RstButtonToolTip", After::Nothing);
+  applyTitleLook();
+}
+
+void QRNDisplay::SetCloseButtonToolTip(const std::string& text) {
+  if (text == CloseButtonToolTip()) return;
+  imgClose_.SetToolTipText(text);
+  propertyChanged("CloseButtonToolTip");
+}
+
+void QRNDisplay::SetActive(bool active) {
+  store(active_, active, "Active", After::Repaint);
+  applyTitleLook();
+}
+
+// ---- sizes that follow from the font ----
+
+std::int32_t QRNDisplay::GetHorizontalSpacing() const {
+  if (horizontalSpacing_ >= 0) return horizontalSpacing_;
+  return static_cast<std::int32_t>(std::nearbyint(TextWidth("0")));
+}
+
+std::int32_t QRNDisplay::GetVerticalSpacing() const {
+  if (verticalSpacing_ >= 0) return verticalSpacing_;
+  return static_cast<std::int32_t>(std::ceil(TextHeight("|") / 3));
+}
+
+std::int32_t QRNDisplay::GetMenuItemHeight() const {
+  if (menuItemHeight_ >= 0) return menuItemHeight_;
+  return static_cast<std::int32_t>(std::ceil(2 * TextHeight("|")));
+}
+
+void QRNDisplay::RemoveControls() {
+  items_->RemoveAll();
+  setUpScrollBar(0);
+}
+
+// ---- focus ----
+
+void QRNDisplay::SetItemFocus(const Variant& aItemSelector) {
+  host::Control* target = &pbxContainer_;
+  ignoringErrors([&] {
+    if (host::Control* control = items_->Item(aItemSelector)->control()) target = control;
+  });
+  target->SetFocus();
+}
+
+std::int32_t QRNDisplay::GetActiveItem(bool bAcceptMouseHit) {
+  const Point cursor = platform().cursor() - platform().screenPosition(root());
+  std::int32_t found = 0;
+  for (std::int32_t i = 1; i <= items_->Count(); ++i) {
+    host::Control* control = items_->Item(Variant(i))->control();
+    if (!control) continue;
+    if (control->hasFocus()) return i;
+    if (bAcceptMouseHit && control->shown() && control->visibleOnSurface().contains(cursor)) found = i;
+  }
+  return found;
+}
+
+host::Control* QRNDisplay::nextTabStop(host::Control* from, bool forward) {
+  while (from && from->Container() != &pbxContainer_) from = from->Container();
+  std::vector<host::Control*> stops;
+  for (const PanelItemPtr& item : *items_) {
+    host::Control* control = item->control();
+    if (control && control->Visible() && (control == from || control->focusTarget()))
+      stops.push_back(control);
+  }
+  std::stable_sort(stops.begin(), stops.end(),
+                   [](const auto* a, const auto* b) { return a->TabIndex() < b->TabIndex(); });
+  if (!forward) std::reverse(stops.begin(), stops.end());
+  const auto at = std::find(stops.begin(), stops.end(), from);
+  const auto next = at == stops.end() ? stops.begin() : std::next(at);
+  return next == stops.end() ? nullptr : *next;
+}
+
+}  // namespace qrn

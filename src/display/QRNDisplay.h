@@ -1,0 +1,256 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/weak_ref.h"
+#include "display/clsQRNCollection.h"
+#include "display/column_layout.h"
+#include "enums/enumerations.h"
+#include "host/image.h"
+#include "host/label.h"
+#include "host/picture_box.h"
+#include "host/user_control.h"
+#include "host/v_scroll_bar.h"
+#include "images/QRNImageList.h"
+
+namespace qrn {
+
+/// A panel of parameter rows and action buttons, with a title bar, a frame and a scroll bar.
+/// Lengths are in pixels; −1 as a spacing or height means one that follows from the font.
+class QRNDisplay final : public host::UserControl {
+ public:
+  QRNDisplay();
+  ~QRNDisplay() override;
+  std::string_view typeName() const override { return "QRNDisplay"; }
+  const host::ClassTable& classTable() const override;
+
+  const Variant& ExtraData() const { return extraData_; }
+  void SetExtraData(const Variant& data) { extraData_ = data; }
+  clsQRNCollection& Items() { return *items_; }
+  host::Controls& ControlsCollection() { return controls(); }
+  host::PictureBox& ControlsContainer() { return pbxContainer_; }
+  /// The panel's own list, made when it is first read, unless the caller has set another one.
+  QRNImageList& ImageList();
+  void SetImageList(QRNImageList* list) { imageList_ = WeakRef<QRNImageList>(list); }
+
+  const std::string& Title() const { return lblTitle_.Caption(); }
+  void SetTitle(const std::string& title);
+  host::Color BackColor() const { return backColor(); }
+  void SetBackColor(host::Color color);
+  host::Color ForeColor() const { return foreColor(); }
+  void SetForeColor(host::Color color);
+  const host::FontPtr& Font() const { return font(); }
+  void SetFont(host::FontPtr font);
+  qrnEdgeType BorderStyle() const { return borderStyle_; }
+  void SetBorderStyle(qrnEdgeType style) { store(borderStyle_, style, "BorderStyle", After::Repaint); }
+  using Control::Enabled;
+  void SetEnabled(bool enabled) override;
+  bool Maximized() const { return maximized_; }
+  void SetMaximized(bool maximized);
+  bool IconCloseHidden() const { return iconCloseHidden_; }
+  void SetIconCloseHidden(bool hidden);
+  bool IconMaxRstHidden() const { return iconMaxRstHidden_; }
+  void SetIconMaxRstHidden(bool hidden);
+  qrnTitleStyle TitleStyle() const { return titleStyle_; }
+  void SetTitleStyle(qrnTitleStyle style);
+  /// Run time only. Errors: 394 when read and 383 when set at design time.
+  bool Redraw() const;
+  void SetRedraw(bool redraw);
+  const std::string& MaxButtonToolTip() const { return maxButtonToolTip_; }
+  void SetMaxButtonToolTip(const std::string& text);
+  const std::string& RstButtonToolTip() const { return rstButtonToolTip_; }
+  void SetRstButtonToolTip(const std::string& text);
+  const std::string& CloseButtonToolTip() const { return imgClose_.ToolTipText(); }
+  void SetCloseButtonToolTip(const std::string& text);
+  std::int32_t LeftMargin() const { return leftMargin_; }
+  void SetLeftMargin(std::int32_t margin) { store(leftMargin_, margin, "LeftMargin", After::Arrange); }
+  std::int32_t TopMargin() const { return topMargin_; }
+  void SetTopMargin(std::int32_t margin) { store(topMargin_, margin, "TopMargin", After::Arrange); }
+  std::int32_t RightMargin() const { return rightMargin_; }
+  void SetRightMargin(std::int32_t margin) { store(rightMargin_, margin, "RightMargin", After::Arrange); }
+  std::int32_t BottomMargin() const { return bottomMargin_; }
+  void SetBottomMargin(std::int32_t margin) { store(bottomMargin_, margin, "BottomMargin", After::Arrange); }
+  /// These three take effect at the next LayoutControls.
+  std::int32_t VerticalSpacing() const { return verticalSpacing_; }
+  void SetVerticalSpacing(std::int32_t spacing) {
+    store(verticalSpacing_, spacing, "VerticalSpacing", After::Nothing);
+  }
+  std::int32_t HorizontalSpacing() const { return horizontalSpacing_; }
+  void SetHorizontalSpacing(std::int32_t spacing) {
+    store(horizontalSpacing_, spacing, "HorizontalSpacing", After::Nothing);
+  }
+  std::int32_t MenuItemHeight() const { return menuItemHeight_; }
+  void SetMenuItemHeight(std::int32_t height) {
+    store(menuItemHeight_, height, "MenuItemHeight", After::Nothing);
+  }
+  /// Whether the title bar looks active.
+  bool Active() const { return active_; }
+  void SetActive(bool active);
+  /// 0 left, 1 right, 2 centre.
+  std::int32_t ButtonsAlignment() const { return buttonsAlignment_; }
+  void SetButtonsAlignment(std::int32_t alignment) {
+    store(buttonsAlignment_, alignment, "ButtonsAlignment", After::Nothing);
+  }
+
+  /// Content taller than the 16 bits of the classic scroll range raises error 6 after everything has been
+  /// placed, unless this is set. Not persisted.
+  bool tallContent() const { return tallContent_; }
+  void SetTallContent(bool tall) { tallContent_ = tall; }
+
+  void RemoveControls();
+  /// Stacks the items; True lays out only if a row has become too narrow, or all of a column too wide.
+  void LayoutControls(bool bAdjustParamsOnly);
+  /// Weights above 0 share the room that the others, as wide as they need to be, leave. The tolerance's
+  /// integer part is the absolute slack of those, its fraction the relative one.
+  void SetColumnLayout(std::int32_t nLabelWeight, std::int32_t nValueWeight, std::int32_t nUnitWeight,
+                       float Tolerance);
+  std::int32_t GetHorizontalSpacing() const;
+  std::int32_t GetVerticalSpacing() const;
+  std::int32_t GetMenuItemHeight() const;
+  /// To the item, or to the item container when none is selected.
+  void SetItemFocus(const Variant& aItemSelector);
+  /// The position of the item with the focus, or else, if wished, of the last one under the mouse; 0 for
+  /// none.
+  std::int32_t GetActiveItem(bool bAcceptMouseHit);
+
+  Event<std::int32_t&> ItemGotFocus;
+  Event<std::int32_t&> ItemLostFocus;
+  Event<std::int32_t&, std::int16_t&> ItemMenuClick;
+  Event<std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyDown;
+  Event<std::int32_t&, std::int16_t&> ItemKeyPress;
+  Event<std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyUp;
+  Event<std::int32_t&> ActionLayout;
+  Event<std::int32_t&> ActionClick;
+  Event<std::int32_t&> ParameterLayout;
+  Event<std::int32_t&> ParameterChange;
+  Event<std::int32_t&, std::int16_t&> ParameterItemCheck;
+  Event<std::int32_t&> ParameterIcon1Click;
+  Event<std::int32_t&> ParameterIcon2Click;
+  Event<std::int32_t&> ParameterClick;
+  Event<std::int32_t&> ParameterStartEdit;
+  Event<std::int32_t&, bool&> ParameterEndEdit;
+  Event<std::int32_t&> ParameterStatusChange;
+  Event<std::int16_t&, std::int16_t&> KeyDown;
+  Event<std::int16_t&> KeyPress;
+  Event<std::int16_t&, std::int16_t&> KeyUp;
+  Event<> Click;
+  Event<> DisplayClose;
+  Event<> DisplayRestore;
+  Event<> DisplayMaximize;
+
+  // ---- the parts, for tests and platforms ----
+  host::Label& lblTitle() { return lblTitle_; }
+  host::Image& imgMaxRst() { return imgMaxRst_; }
+  host::Image& imgClose() { return imgClose_; }
+  host::VScrollBar& sbrVertical() { return sbrVertical_; }
+
+  void paint(host::Surface& surface, Size size) override;
+  void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
+  void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  bool wheel(double notches) override;
+  void keyDown(std::int16_t& keyCode, std::int16_t& shift) override;
+  void keyPress(std::int16_t& keyAscii) override;
+  void keyUp(std::int16_t& keyCode, std::int16_t& shift) override;
+  void childChanged(host::Control& child) override;
+  void childMouseDown(host::Control& child, host::MouseButton button, std::int16_t shift, Point at) override;
+  void childMouseMove(host::Control& child, std::int16_t buttons, std::int16_t shift, Point at) override;
+  void childMouseUp(host::Control& child, host::MouseButton button, std::int16_t shift, Point at) override;
+  void childDoubleClick(host::Control& child, Point at) override;
+  void childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) override {
+    keyDown(keyCode, shift);
+  }
+  void childKeyPress(host::Control&, std::int16_t& keyAscii) override { keyPress(keyAscii); }
+  void childKeyUp(host::Control&, std::int16_t& keyCode, std::int16_t& shift) override {
+    keyUp(keyCode, shift);
+  }
+  host::Control* nextTabStop(host::Control* from, bool forward) override;
+
+ protected:
+  void initialize() override;
+  void resize() override { arrange(); }
+  void show() override;
+  void realised() override { sbrVertical_.realiseWithSurface(); }
+
+ private:
+  friend class clsQRNAction;
+  friend class clsQRNParam;
+  friend class PanelItem;
+  friend struct QRNDisplayTable;
+
+  enum class After : std::uint8_t { Nothing, Repaint, Arrange };
+  template <class T>
+  void store(T& field, const T& value, std::string_view key, After after) {
+    if (field == value) return;
+    field = value;
+    propertyChanged(key);
+    if (after == After::Repaint)
+      invalidate();
+    else if (after == After::Arrange)
+      arrange();
+  }
+
+  // ---- arrangement and layout (QRNDisplay_layout.cpp) ----
+  void arrange();
+  double arrangeTitle();
+  void placeItems(const ColumnWidths& automatic);
+  double placeAction(QRNMenuItem& button, double y, double gap);
+  double placeRow(QRNEdit& row, const ColumnWidths& automatic, double y, double gap);
+  void setUpScrollBar(double contentHeight);
+  void applyScroll();
+  double containerWidth() const;
+  std::int32_t scrollNumber(double value) const;
+
+  // ---- events (QRNDisplay_events.cpp) ----
+  void raiseItem(Event<std::int32_t&>& event, std::string_view name, const PanelItem& item);
+  void itemGotFocus(const PanelItem& item);
+  void bringIntoView(const host::Control& control);
+  void startEditCycle(std::int32_t index);
+  void endEditCycle(std::int32_t index, bool changed);
+  void passiveClick() { raise(Click, "Click"); }
+  void toggleMaximized();
+  void clickOn(host::Control& child);
+
+  // ---- painting (QRNDisplay_paint.cpp) ----
+  void paintTitle(host::Surface& surface, Size size);
+  void paintTitleButton(host::Surface& surface, const host::Image& button);
+  void paintEdge(host::Surface& surface, Size size);
+  void applyTitleLook();
+
+  host::Label lblTitle_;
+  host::Image imgMaxRst_;
+  host::Image imgClose_;
+  host::PictureBox pbxContainer_;
+  host::VScrollBar sbrVertical_;
+  std::shared_ptr<clsQRNCollection> items_;
+  WeakRef<QRNImageList> imageList_;
+
+  Variant extraData_;
+  std::string maxButtonToolTip_;
+  std::string rstButtonToolTip_;
+  ColumnWeights columns_;
+  std::int32_t leftMargin_ = 5;
+  std::int32_t topMargin_ = 5;
+  std::int32_t rightMargin_ = 5;
+  std::int32_t bottomMargin_ = 5;
+  std::int32_t verticalSpacing_ = -1;
+  std::int32_t horizontalSpacing_ = -1;
+  std::int32_t menuItemHeight_ = -1;
+  std::int32_t buttonsAlignment_ = 1;
+  std::int32_t editIndex_ = 0;
+  qrnEdgeType borderStyle_ = qrnEdgeEngraved;
+  qrnTitleStyle titleStyle_ = qrnTitleStandard;
+  double titleHeight_ = 0;
+  const host::Control* pressed_ = nullptr;  // the part that a left press went down on
+  const host::Control* hovered_ = nullptr;  // the title button under the mouse
+  bool maximized_ = false;
+  bool iconCloseHidden_ = false;
+  bool iconMaxRstHidden_ = false;
+  bool active_ = true;
+  bool redraw_ = false;
+  bool tallContent_ = false;
+  bool editing_ = false;
+  bool editChanged_ = false;
+};
+
+}  // namespace qrn

@@ -1,0 +1,134 @@
+#include <cmath>
+
+#include "display/QRNDisplay.h"
+#include "runtime/errors.h"
+
+namespace qrn {
+namespace {
+
+bool isInside(const host::Control& part, Point at) {
+  const Size size = part.pixelSize();
+  return at.x >= 0 && at.x < size.width && at.y >= 0 && at.y < size.height;
+}
+
+}  // namespace
+
+void QRNDisplay::raiseItem(Event<std::int32_t&>& event, std::string_view name, const PanelItem& item) {
+  std::int32_t index = item.position();
+  raise(event, name, index);
+}
+
+// ---- focus and edit cycles ----
+
+void QRNDisplay::itemGotFocus(const PanelItem& item) {
+  ignoringErrors([&] { bringIntoView(*item.control()); });
+  raiseItem(ItemGotFocus, "ItemGotFocus", item);
+}
+
+// The bottom first, then the top: of an item taller than the view the top is seen.
+void QRNDisplay::bringIntoView(const host::Control& control) {
+  double offset = sbrVertical_.Value();
+  const double bottom = control.Top() - offset + control.Height(), room = pbxContainer_.ScaleHeight();
+  if (bottom > room) offset += bottom - room;
+  const double top = control.Top() - offset;
+  if (top < 0) offset += top;
+  if (offset == sbrVertical_.Value()) return;
+  sbrVertical_.SetValue(scrollNumber(offset));
+  applyScroll();
+}
+
+void QRNDisplay::startEditCycle(std::int32_t index) {
+  const WeakRef<host::Control> self(this);
+  if (editing_ && editIndex_ != index) endEditCycle(editIndex_, editChanged_);
+  if (!self || editing_) return;
+  editing_ = true;
+  editIndex_ = index;
+  editChanged_ = false;
+  raise(ParameterStartEdit, "ParameterStartEdit", index);
+}
+
+void QRNDisplay::endEditCycle(std::int32_t index, bool changed) {
+  if (index != editIndex_ || !editing_) return;
+  editing_ = false;
+  raise(ParameterEndEdit, "ParameterEndEdit", index, changed);
+}
+
+// ---- the panel's own ----
+
+void QRNDisplay::keyDown(std::int16_t& keyCode, std::int16_t& shift) {
+  raise(KeyDown, "KeyDown", keyCode, shift);
+}
+
+void QRNDisplay::keyPress(std::int16_t& keyAscii) {
+  // Escape closes the panel, so it goes no further while there is something to close it with.
+  if (keyAscii == host::key::Escape && !iconCloseHidden_)
+    keyAscii = 0;
+  else
+    raise(KeyPress, "KeyPress", keyAscii);
+}
+
+void QRNDisplay::keyUp(std::int16_t& keyCode, std::int16_t& shift) { raise(KeyUp, "KeyUp", keyCode, shift); }
+
+void QRNDisplay::mouseDown(host::MouseButton button, std::int16_t, Point) {
+  if (button == host::MouseButton::Left) pressed_ = this;
+}
+
+void QRNDisplay::mouseUp(host::MouseButton button, std::int16_t, Point at) {
+  if (button != host::MouseButton::Left || pressed_ != this) return;
+  pressed_ = nullptr;
+  if (isInside(*this, at)) passiveClick();
+}
+
+void QRNDisplay::childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point) {
+  if (button != host::MouseButton::Left) return;
+  pressed_ = &child;
+  child.invalidate();
+}
+
+void QRNDisplay::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point at) {
+  const bool button = &child == &imgClose_ || &child == &imgMaxRst_;
+  const host::Control* now = button && isInside(child, at) ? &child : nullptr;
+  if (now == hovered_) return;
+  hovered_ = now;
+  imgClose_.invalidate();
+  imgMaxRst_.invalidate();
+}
+
+void QRNDisplay::childMouseUp(host::Control& child, host::MouseButton button, std::int16_t, Point at) {
+  if (button != host::MouseButton::Left || pressed_ != &child) return;
+  pressed_ = nullptr;
+  child.invalidate();
+  if (isInside(child, at)) clickOn(child);
+}
+
+void QRNDisplay::clickOn(host::Control& child) {
+  if (&child == &imgClose_) {
+    if (!iconCloseHidden_) raise(DisplayClose, "DisplayClose");
+  } else if (&child == &imgMaxRst_) {
+    toggleMaximized();
+  } else if (&child == &lblTitle_ || &child == &pbxContainer_) {
+    passiveClick();
+  }
+}
+
+void QRNDisplay::childDoubleClick(host::Control& child, Point) {
+  if (&child == &lblTitle_) toggleMaximized();
+}
+
+// The caller decides what becomes of it; the panel itself stays as it is.
+void QRNDisplay::toggleMaximized() {
+  if (iconMaxRstHidden_) return;
+  if (maximized_)
+    raise(DisplayRestore, "DisplayRestore");
+  else
+    raise(DisplayMaximize, "DisplayMaximize");
+}
+
+void QRNDisplay::childChanged(host::Control& child) {
+  if (&child == &sbrVertical_)
+    applyScroll();
+  else if (&child == &pbxContainer_)
+    LayoutControls(false);
+}
+
+}  // namespace qrn

@@ -1,0 +1,179 @@
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "display/QRNDisplay.h"
+#include "runtime/errors.h"
+
+namespace qrn {
+namespace {
+
+constexpr double kNarrowest = 80;  // of an item, whatever the panel's width
+
+double rounded(double value) { return std::nearbyint(value); }
+
+ColumnWidths minimumOf(const QRNEdit& row) {
+  return {row.GetMinLabelWidth(), row.GetMinValueWidth(), row.GetMinUnitWidth()};
+}
+
+ColumnWidths widthsOf(const QRNEdit& row) { return {row.LabelWidth(), row.ValueWidth(), row.UnitWidth()}; }
+
+void setWidth(QRNEdit& row, int column, std::int32_t width) {
+  if (column == 0)
+    row.SetLabelWidth(width);
+  else if (column == 1)
+    row.SetValueWidth(width);
+  else
+    row.SetUnitWidth(width);
+}
+
+}  // namespace
+
+// ---- the parts of the panel ----
+
+void QRNDisplay::arrange() {
+  if (!redraw_) return;
+  titleHeight_ = titleStyle_ == qrnTitleNone ? 0 : arrangeTitle();
+  const double width = rounded(ScaleWidth() - leftMargin_ - rightMargin_);
+  const double height = rounded(ScaleHeight() - titleHeight_ - topMargin_ - bottomMargin_);
+  pbxContainer_.Move(leftMargin_, titleHeight_ + topMargin_, std::max(width, 1.0), std::max(height, 1.0));
+  const double bar = platform().scrollBarWidth();
+  sbrVertical_.Move(pbxContainer_.bounds().right() - bar, pbxContainer_.Top(), bar, pbxContainer_.Height());
+  invalidate();
+}
+
+// Answers the height of the title bar.
+double QRNDisplay::arrangeTitle() {
+  constexpr double kEdge = 5, kGap = 4;
+  const double text = TextHeight("|");
+  const double indent = rounded(text / 3 + 5);
+  const double height = rounded(text + 10 - 1);
+  imgClose_.Move(ScaleWidth() - kEdge - imgClose_.Width(), (height - imgClose_.Height() + 1) / 2,
+                 imgClose_.Width(), imgClose_.Height());
+  imgMaxRst_.Move(imgClose_.Left() - imgMaxRst_.Width() - kGap, (height - imgMaxRst_.Height() + 1) / 2,
+                  imgMaxRst_.Width(), imgMaxRst_.Height());
+  double width = rounded(ScaleWidth() - indent - 2);
+  if (!iconCloseHidden_) width -= imgClose_.Width() + kGap;
+  if (!iconMaxRstHidden_) width -= imgMaxRst_.Width() + kGap;
+  const auto top = static_cast<std::int32_t>(rounded(height - text + 1)) / 2;
+  lblTitle_.Move(indent, top, std::max(width, 1.0), text + 1);
+  return height;
+}
+
+// ---- the items ----
+
+void QRNDisplay::SetColumnLayout(std::int32_t nLabelWeight, std::int32_t nValueWeight,
+                                 std::int32_t nUnitWeight, float Tolerance) {
+  columns_ = ColumnWeights::of(nLabelWeight, nValueWeight, nUnitWeight, Tolerance);
+  LayoutControls(false);
+}
+
+void QRNDisplay::LayoutControls(bool bAdjustParamsOnly) {
+  if (bAdjustParamsOnly && !columns_.anyAutomatic()) return;
+  ColumnFit fit(columns_);
+  if (columns_.anyAutomatic()) {
+    for (const PanelItemPtr& item : *items_) {
+      const auto* row = dynamic_cast<const QRNEdit*>(item->control());
+      if (!row) continue;
+      if (bAdjustParamsOnly)
+        fit.add(minimumOf(*row), widthsOf(*row));
+      else
+        fit.add(minimumOf(*row));
+    }
+  }
+  if (bAdjustParamsOnly && !fit.mustRefit()) return;
+  placeItems(fit.widths());
+}
+
+double QRNDisplay::containerWidth() const {
+  return std::trunc(pbxContainer_.ScaleWidth() - sbrVertical_.Width());
+}
+
+void QRNDisplay::placeItems(const ColumnWidths& automatic) {
+  double y = 0, gap = 0;
+  std::int32_t tab = 0;
+  for (const PanelItemPtr& item : *items_) {
+    host::Control* control = item->control();
+    if (!control || !control->Visible()) continue;
+    control->SetTabIndex(++tab);
+    if (auto* button = dynamic_cast<QRNMenuItem*>(control)) {
+      y = placeAction(*button, y, gap);
+      gap = 0;
+    } else {
+      y = placeRow(static_cast<QRNEdit&>(*control), automatic, y, gap);
+      gap = GetVerticalSpacing();
+    }
+  }
+  setUpScrollBar(y);
+}
+
+// Answers where the item ends. Buttons touch each other; rows keep a distance from everything.
+double QRNDisplay::placeAction(QRNMenuItem& button, double y, double gap) {
+  const std::int32_t spacing = GetHorizontalSpacing(), height = GetMenuItemHeight();
+  button.SetRedraw(false);
+  button.SetMargin(spacing);
+  if (y > 0 && gap >= 1) y += gap;
+  button.Move(0, y, std::max(containerWidth() - spacing, kNarrowest), height);
+  button.SetRedraw(true);
+  return y + height;
+}
+
+double QRNDisplay::placeRow(QRNEdit& row, const ColumnWidths& automatic, double y, double gap) {
+  const std::int32_t spacing = GetHorizontalSpacing();
+  row.SetRedraw(false);
+  row.SetHorizontalSpacing(spacing);
+  const double width = std::max(containerWidth() - 2 * spacing, kNarrowest);
+  double free = width - row.GetMinBruttoWidth();
+  for (int column = 0; column < kColumns; ++column) {
+    if (!columns_.isAutomatic(column)) continue;
+    setWidth(row, column, automatic[static_cast<std::size_t>(column)]);
+    free -= automatic[static_cast<std::size_t>(column)];
+  }
+  free = std::max(free, 1.0);
+  for (int column = 0; column < kColumns; ++column) {
+    if (columns_.isAutomatic(column)) continue;
+    const auto share = static_cast<double>(columns_.weight[static_cast<std::size_t>(column)]);
+    setWidth(row, column, static_cast<std::int32_t>(std::floor(share * free)));
+  }
+  if (!row.UnitVisible()) row.SetValueWidth(row.ValueWidth() + row.UnitWidth());
+  const std::int32_t height = row.GetMinHeight();
+  if (y > 0) y += std::max(gap, static_cast<double>(GetVerticalSpacing()));
+  row.Move(spacing, y, width, height);
+  row.SetRedraw(true);
+  return y + height;
+}
+
+// ---- scrolling ----
+
+std::int32_t QRNDisplay::scrollNumber(double value) const {
+  const double whole = rounded(value);
+  if (!tallContent_ && whole > std::numeric_limits<std::int16_t>::max()) {
+    raiseRunTimeError(kOverflow, typeName());
+  }
+  return static_cast<std::int32_t>(whole);
+}
+
+void QRNDisplay::setUpScrollBar(double contentHeight) {
+  const double room = pbxContainer_.ScaleHeight();
+  const bool fits = room >= contentHeight;
+  if (fits) {
+    sbrVertical_.SetMax(0);
+  } else {
+    sbrVertical_.SetMax(scrollNumber(contentHeight - room));
+    sbrVertical_.SetLargeChange(std::max(1, scrollNumber(room)));
+    sbrVertical_.SetSmallChange(std::max(1, scrollNumber(GetMenuItemHeight())));
+  }
+  sbrVertical_.SetEnabled(!fits && Enabled());
+  sbrVertical_.SetVisible(!fits);
+  applyScroll();
+}
+
+void QRNDisplay::applyScroll() { pbxContainer_.scrollTo(sbrVertical_.Value()); }
+
+bool QRNDisplay::wheel(double notches) {
+  if (!sbrVertical_.Visible()) return false;
+  sbrVertical_.userScrolled(sbrVertical_.Value() - scrollNumber(notches * sbrVertical_.SmallChange()));
+  return true;
+}
+
+}  // namespace qrn

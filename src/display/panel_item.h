@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string_view>
+
+#include "base/event.h"
+#include "base/keyed_list.h"
+#include "base/weak_ref.h"
+#include "host/event_args.h"
+#include "host/user_control.h"
+#include "runtime/variant.h"
+
+namespace qrn {
+
+class QRNDisplay;
+
+/// What the two kinds of items have in common: free caller data, the control, and the events of the control,
+/// which reach the panel with the item's position.
+class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> {
+ public:
+  const Variant& Tag() const { return tag_; }
+  void SetTag(const Variant& tag) { tag_ = tag; }
+
+ protected:
+  friend class clsQRNCollection;
+  friend class QRNDisplay;
+
+  virtual void SetControl(host::UserControl& control);
+  /// Answers whether the item deals with the event; the names are those of the control's events.
+  virtual void controlEvent(std::string_view name, host::EventArgs arguments) = 0;
+
+  host::UserControl* control() const { return control_.get(); }
+  /// Errors: 0x80040001 once the control has gone.
+  host::UserControl& requireControl() const;
+  /// The panel whose control collection made the control; null once that has gone.
+  QRNDisplay* panel() const;
+  /// 1-based, 0 once the item is out of its collection.
+  std::int32_t position() const { return entry_ ? entry_->position : 0; }
+
+  /// A listener may remove the item that is raising.
+  std::shared_ptr<PanelItem> keepAlive() { return shared_from_this(); }
+  /// What both kinds do with keys, menus and the focus; false for an event of one kind only.
+  bool commonEvent(QRNDisplay& panel, std::string_view name, host::EventArgs arguments);
+
+ private:
+  using Entry = KeyedList<std::shared_ptr<PanelItem>>::Entry;
+
+  Variant tag_;
+  WeakRef<host::UserControl> control_;
+  Connection events_;
+  const Entry* entry_ = nullptr;  // the item's own place in its collection
+};
+
+using PanelItemPtr = std::shared_ptr<PanelItem>;
+
+}  // namespace qrn

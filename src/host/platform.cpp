@@ -1,0 +1,19 @@
+#include "host/platform.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace qrn::host {
+namespace {
+
+thread_local std::vector<Platform*> platforms;
+
+}  // namespace
+
+Platform::Platform() { platforms.push_back(this); }
+
+Platform::~Platform() { std::erase(platforms, this); }
+
+Platform* Platform::current() { return platforms.empty() ? nullptr : platforms.back(); }
+
+}  // namespace qrn::host

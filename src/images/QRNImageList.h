@@ -1,0 +1,32 @@
+#pragma once
+
+#include <map>
+
+#include "enums/enumerations.h"
+#include "host/picture.h"
+#include "host/user_control.h"
+
+namespace qrn {
+
+/// Pictures by number. A new list holds the library's own, 0 to 18; a host may add pictures at any free
+/// number.
+class QRNImageList final : public host::UserControl {
+ public:
+  QRNImageList();
+  std::string_view typeName() const override { return "QRNImageList"; }
+  const host::ClassTable& classTable() const override;
+
+  /// Errors: 340 for a number that has no picture.
+  const host::PicturePtr& Image(qrnImageId ImageId) const;
+  /// Takes a picture's place, adds one, or with none gives the number free again.
+  void SetImage(qrnImageId ImageId, host::PicturePtr picture);
+  /// One more than the highest number in use.
+  qrnImageId GetNextFreeImageIndex() const;
+
+  void paint(host::Surface& surface, Size size) override;
+
+ private:
+  std::map<std::int32_t, host::PicturePtr> images_;
+};
+
+}  // namespace qrn

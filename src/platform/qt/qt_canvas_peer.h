@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_peer.h"
+
+namespace qrn::qt {
+
+class QtCanvasPeer final : public QtPeer {
+ public:
+  QtCanvasPeer(QtPlatform& platform, host::UserControl& control);
+  ~QtCanvasPeer() override;
+
+  QtCanvas* canvas() const { return static_cast<QtCanvas*>(widget()); }
+  void invalidate(const Rect& area) override;
+  void takeFocus() override;
+
+ private:
+  void apply(host::Aspect aspect) override;
+
+  host::UserControl& control_;
+};
+
+}  // namespace qrn::qt

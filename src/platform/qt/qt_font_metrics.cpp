@@ -1,0 +1,77 @@
+#include "platform/qt/qt_font_metrics.h"
+
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "base/text.h"
+#include "platform/qt/qt_text.h"
+
+namespace qrn::qt {
+namespace {
+
+double screenDpi() {
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  return screen ? screen->logicalDotsPerInchY() : 96;
+}
+
+// Pairs that fonts join to one glyph; with a third letter they may become another one again.
+bool mayJoin(char32_t first, char32_t second) {
+  return first == 'f' && (second == 'f' || second == 'i' || second == 'l' || second == 'j');
+}
+
+}  // namespace
+
+QFont toQFont(const host::Font& font) {
+  QFont result = QGuiApplication::font();
+  if (!font.family.empty()) result.setFamilies({toQString(font.family)});
+  if (font.size > 0) result.setPointSizeF(font.size * 96 / screenDpi());
+  result.setBold(font.bold);
+  result.setItalic(font.italic);
+  result.setUnderline(font.underline);
+  result.setStrikeOut(font.strikethrough);
+  return result;
+}
+
+QtFontMetrics::QtFontMetrics(const host::Font& font) : font_(toQFont(font)), shaper_(font_) {
+  const QFontMetrics whole(font_);
+  height_ = whole.height();
+  ascent_ = whole.ascent();
+  letters_.fill(kUnknown);
+}
+
+double QtFontMetrics::shaped(std::string_view text) const {
+  return shaper_.horizontalAdvance(toQString(text));
+}
+
+double QtFontMetrics::letter(unsigned char c) {
+  float& width = letters_[c];
+  if (width == kUnknown) width = static_cast<float>(shaper_.horizontalAdvance(QString(QChar(c))));
+  return static_cast<double>(width);
+}
+
+double QtFontMetrics::kerning(unsigned char first, unsigned char second) {
+  if (kernings_.empty()) kernings_.assign(kLetters * kLetters, kUnknown);
+  float& kept = kernings_[first * kLetters + second];
+  if (kept == kUnknown) {
+    const QChar pair[] = {QChar(first), QChar(second)};
+    kept = static_cast<float>(shaper_.horizontalAdvance(QString(pair, 2)) - letter(first) - letter(second));
+  }
+  return static_cast<double>(kept);
+}
+
+double QtFontMetrics::advance(std::string_view text) {
+  double width = 0;
+  char32_t before = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t c = text::next(text, at);
+    if (c < 0x20 || c >= kLetters || mayJoin(before, c)) return shaped(text);
+    if (before != 0)
+      width += kerning(static_cast<unsigned char>(before), static_cast<unsigned char>(c));
+    width += letter(static_cast<unsigned char>(c));
+    before = c;
+  }
+  return width;
+}
+
+}  // namespace qrn::qt

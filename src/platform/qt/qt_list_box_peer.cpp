@@ -1,0 +1,82 @@
+#include "platform/qt/qt_list_box_peer.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <utility>
+
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_list_item.h"
+#include "platform/qt/qt_text.h"
+
+namespace qrn::qt {
+
+CheckListWidget::CheckListWidget(QWidget* parent) : QListWidget(parent) {
+  setItemDelegate(new QtListItemDelegate(this));
+  setUniformItemSizes(true);
+  setVerticalScrollMode(ScrollPerPixel);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setEditTriggers(NoEditTriggers);
+}
+
+void CheckListWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
+    tick(currentRow());
+  else
+    QListWidget::keyPressEvent(event);
+}
+
+void CheckListWidget::mousePressEvent(QMouseEvent* event) {
+  pressedRow_ = event->button() == Qt::LeftButton ? row(itemAt(event->pos())) : -1;
+  QListWidget::mousePressEvent(event);
+}
+
+void CheckListWidget::mouseReleaseEvent(QMouseEvent* event) {
+  QListWidget::mouseReleaseEvent(event);
+  const int pressed = std::exchange(pressedRow_, -1);
+  if (event->button() == Qt::LeftButton && pressed == row(itemAt(event->pos()))) tick(pressed);
+}
+
+void CheckListWidget::tick(int row) {
+  // A copy, as the peer that listens may go meanwhile.
+  if (const auto listener = onTicked; listener && row >= 0) listener(row);
+}
+
+QtListBoxPeer::QtListBoxPeer(QtCanvas& canvas, host::ListBox& box)
+    : QtEditorPeer(canvas, box, new CheckListWidget(&canvas)),
+      box_(box),
+      list_(static_cast<CheckListWidget&>(*widget())) {
+  bringUpToDate();
+  list_.onTicked = [this](int row) { reportTick(row); };
+  QObject::connect(&list_, &QListWidget::currentRowChanged, context(),
+                   [this](int row) { report([this, row] { box_.userMovedTo(row); }); });
+}
+
+QtListBoxPeer::~QtListBoxPeer() {
+  if (widget()) list_.onTicked = nullptr;
+}
+
+QWidget* QtListBoxPeer::mouseReceiver() const { return widget() ? list_.viewport() : nullptr; }
+
+void QtListBoxPeer::applyEntries() {
+  list_.clear();
+  for (int i = 0; i < box_.ListCount(); ++i) {
+    auto* item = new QListWidgetItem(toQString(box_.List(i)), &list_);
+    // The list ticks its entries itself, so that a click ticks wherever it hits them.
+    item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+  }
+  applyContent();
+}
+
+void QtListBoxPeer::applyContent() {
+  for (int i = 0; i < box_.ListCount() && i < list_.count(); ++i)
+    list_.item(i)->setCheckState(box_.Selected(i) ? Qt::Checked : Qt::Unchecked);
+  list_.setCurrentRow(box_.ListIndex());
+}
+
+void QtListBoxPeer::reportTick(int row) {
+  const QPointer<QObject> alive(context());
+  report([this, row] { box_.userChecked(static_cast<std::int16_t>(row)); });
+  if (alive) changed(host::Aspect::Content);
+}
+
+}  // namespace qrn::qt

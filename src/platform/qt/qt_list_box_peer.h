@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QListWidget>
+#include <functional>
+
+#include "host/list_box.h"
+#include "platform/qt/qt_child_peer.h"
+
+namespace qrn::qt {
+
+/// A list whose entries are ticked by a click anywhere on them, or by Space.
+class CheckListWidget final : public QListWidget {
+ public:
+  explicit CheckListWidget(QWidget* parent);
+  std::function<void(int)> onTicked;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void tick(int row);
+
+  int pressedRow_ = -1;
+};
+
+class QtListBoxPeer final : public QtEditorPeer {
+ public:
+  QtListBoxPeer(QtCanvas& canvas, host::ListBox& box);
+  ~QtListBoxPeer() override;
+  QWidget* mouseReceiver() const override;
+
+ private:
+  void applyContent() override;
+  void applyEntries() override;
+  void reportTick(int row);
+
+  host::ListBox& box_;
+  CheckListWidget& list_;
+};
+
+}  // namespace qrn::qt

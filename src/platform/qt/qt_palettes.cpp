@@ -1,0 +1,40 @@
+#include "platform/qt/qt_palettes.h"
+
+#include <QApplication>
+
+#include "host/check_box.h"
+#include "host/combo_box.h"
+#include "platform/qt/qt_color.h"
+#include "platform/qt/qt_platform.h"
+
+namespace qrn::qt {
+namespace {
+
+// A drop list is a button and a check mark lies in its box: only a colour of the caller's own replaces what
+// the style has there.
+host::Color backgroundOf(const host::Editor& editor, QPalette::ColorRole role, const QtPlatform& platform) {
+  const bool styled = dynamic_cast<const host::CheckBox*>(&editor) ||
+                      (role == QPalette::Button && host::isSystemColor(editor.BackColor()));
+  return styled ? fromQt(QApplication::palette().color(role)) : platform.resolve(editor.BackColor());
+}
+
+}  // namespace
+
+const QPalette& QtPalettes::of(const host::Editor& editor) {
+  const QPalette::ColorRole role =
+      dynamic_cast<const host::ComboBox*>(&editor) ? QPalette::Button : QPalette::Base;
+  const host::Color back = backgroundOf(editor, role, platform_);
+  const host::Color wish = platform_.resolve(editor.textColor());
+  const host::Color text = editor.Enabled() ? host::readableOn(wish, back) : wish;
+  const auto [entry, fresh] = palettes_.try_emplace({role, back, text});
+  if (fresh) {
+    QPalette palette = QApplication::palette();
+    palette.setColor(role, toQColor(back));
+    for (const auto each : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+      palette.setColor(each, toQColor(text));
+    entry->second = palette;
+  }
+  return entry->second;
+}
+
+}  // namespace qrn::qt

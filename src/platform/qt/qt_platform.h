@@ -1,0 +1,63 @@
+#pragma once
+
+#include <deque>
+#include <utility>
+
+#include "host/platform.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_editor_painter.h"
+#include "platform/qt/qt_font_metrics.h"
+#include "platform/qt/qt_palettes.h"
+#include "platform/qt/qt_picture_cache.h"
+#include "platform/qt/qt_windows.h"
+
+class QWidget;
+
+namespace qrn::host {
+class UserControl;
+}
+
+namespace qrn::qt {
+
+/// Controls on widgets of Qt. Needs the application object, and must outlive the controls.
+class QtPlatform final : public host::Platform {
+ public:
+  QtPlatform();
+
+  /// The widget that shows a control, made on the first call. The caller lays it out and may hand it to a
+  /// parent; it goes with the control or with that parent, whichever goes first.
+  QWidget* widget(host::UserControl& control);
+
+  std::unique_ptr<host::Peer> realise(host::Control& control) override;
+  QtFontMetrics& metrics(const host::Font& font) override;
+  host::FontPtr defaultFont() override { return defaultFont_; }
+  QtWindows& windows() override { return windows_; }
+  QtClock& clock() override { return clock_; }
+  std::optional<int> popUp(host::PopupMenu& menu, Point screen) override;
+  Point cursor() const override;
+  Point screenPosition(const host::Control& control) const override;
+  host::Color system(host::SystemColor which) const override;
+  void paintControl(host::Surface& surface, const host::Control& control) override;
+  double scrollBarWidth() const override;
+  double comboBoxHeight(const host::Font& font) override;
+  void beep() override;
+  /// Nothing can be made by its ProgID here.
+  std::shared_ptr<host::AutomationObject> createObject(std::string_view) override { return nullptr; }
+  std::string applicationName() const override;
+
+  QtPalettes& palettes() { return palettes_; }
+  QtPictureCache& pictures() { return pictures_; }
+  /// Palette, style or scale of the application are others now.
+  void appearanceChanged();
+
+ private:
+  host::FontPtr defaultFont_;
+  std::deque<std::pair<host::Font, QtFontMetrics>> metrics_;
+  QtWindows windows_;
+  QtClock clock_;
+  QtPalettes palettes_;
+  QtPictureCache pictures_;
+  QtEditorPainter editorPainter_;
+};
+
+}  // namespace qrn::qt

@@ -1,0 +1,44 @@
+#include "platform/qt/qt_press_forwarder.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QStyleHints>
+
+namespace qrn::qt {
+
+void QtPressForwarder::send(QWidget& receiver, const QMouseEvent& event, int type) {
+  const QScopedValueRollback sending(sending_, true);
+  const QPointF local = receiver.mapFromGlobal(event.globalPosition());
+  QMouseEvent sent(static_cast<QEvent::Type>(type), local, event.globalPosition(), event.button(),
+                   event.buttons(), event.modifiers(), event.pointingDevice());
+  sent.setTimestamp(event.timestamp());
+  QCoreApplication::sendEvent(&receiver, &sent);
+}
+
+void QtPressForwarder::press(QWidget& receiver, const QMouseEvent& event) {
+  receiver_ = &receiver;
+  firstClick_ = event.button() == Qt::LeftButton ? &receiver : nullptr;
+  firstClickAt_ = event.globalPosition().toPoint();
+  firstClickTime_ = event.timestamp();
+  send(receiver, event, QEvent::MouseButtonPress);
+}
+
+void QtPressForwarder::pass(const QMouseEvent& event) {
+  QWidget& receiver = *receiver_;
+  if (event.buttons() == Qt::NoButton) end();
+  send(receiver, event, event.type());
+}
+
+bool QtPressForwarder::completeDoubleClick(QWidget& receiver, const QMouseEvent& press) {
+  if (sending_ || firstClick_ != &receiver) return false;
+  firstClick_ = nullptr;
+  const auto& hints = *QGuiApplication::styleHints();
+  const auto apart = (press.globalPosition().toPoint() - firstClickAt_).manhattanLength();
+  const bool second = press.button() == Qt::LeftButton && apart <= hints.mouseDoubleClickDistance() &&
+                      press.timestamp() - firstClickTime_ <= static_cast<quint64>(hints.mouseDoubleClickInterval());
+  if (second) send(receiver, press, QEvent::MouseButtonDblClick);
+  return second;
+}
+
+}  // namespace qrn::qt

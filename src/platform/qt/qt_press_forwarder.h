@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+
+class QMouseEvent;
+
+namespace qrn::qt {
+
+/// Hands the mouse on to an editor whose widget was made by the press: the press itself, then what follows
+/// until the release, which Qt still sends to the widget that was pressed.
+class QtPressForwarder {
+ public:
+  /// An event is being handed on. What the editor does not want comes back to its parent meanwhile.
+  bool sending() const { return sending_; }
+  bool active() const { return !receiver_.isNull(); }
+  QWidget* receiver() const { return receiver_; }
+
+  void press(QWidget& receiver, const QMouseEvent& event);
+  /// A move or a release; the release of the last button ends it.
+  void pass(const QMouseEvent& event);
+  void end() { receiver_ = nullptr; }
+
+  /// The second click of a double click is a plain press to Qt when the first one went elsewhere. Answers
+  /// whether it was handed on as what it is.
+  bool completeDoubleClick(QWidget& receiver, const QMouseEvent& press);
+
+ private:
+  void send(QWidget& receiver, const QMouseEvent& event, int type);
+
+  QPointer<QWidget> receiver_;
+  bool sending_ = false;
+
+  QPointer<QWidget> firstClick_;
+  QPoint firstClickAt_;
+  quint64 firstClickTime_ = 0;
+};
+
+}  // namespace qrn::qt

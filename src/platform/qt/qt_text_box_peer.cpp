@@ -1,0 +1,77 @@
+#include "platform/qt/qt_text_box_peer.h"
+
+#include <algorithm>
+
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_text.h"
+
+namespace qrn::qt {
+
+Qt::Alignment horizontalAlignment(std::int32_t alignment) {
+  if (alignment == host::kAlignLeft) return Qt::AlignLeft;
+  return alignment == host::kAlignRight ? Qt::AlignRight : Qt::AlignHCenter;
+}
+
+QtTextBoxPeer::QtTextBoxPeer(QtCanvas& canvas, host::TextBox& box)
+    : QtEditorPeer(canvas, box, new QLineEdit(&canvas)),
+      box_(box),
+      line_(static_cast<QLineEdit&>(*widget())) {
+  bringUpToDate();
+  QObject::connect(&line_, &QLineEdit::textEdited, context(), [this] { reportText(); });
+  QObject::connect(&line_, &QLineEdit::selectionChanged, context(), [this] { reportSelection(); });
+  QObject::connect(&line_, &QLineEdit::cursorPositionChanged, context(), [this] { reportSelection(); });
+}
+
+void QtTextBoxPeer::applyLook() {
+  QtEditorPeer::applyLook();
+  line_.setAlignment(horizontalAlignment(box_.Alignment()) | Qt::AlignVCenter);
+  line_.setEchoMode(box_.PasswordChar().empty() ? QLineEdit::Normal : QLineEdit::Password);
+  applyMaxLength();
+}
+
+void QtTextBoxPeer::applyEnabled() {
+  QtEditorPeer::applyEnabled();
+  line_.setReadOnly(box_.Locked());
+}
+
+// The control counts code points; a text that is too long already is shown as it is.
+void QtTextBoxPeer::applyMaxLength() {
+  constexpr int kNoLimit = 32767;
+  const QString text = toQString(box_.Text());
+  const int pairs = static_cast<int>(text.size()) - codePointsBefore(text, static_cast<int>(text.size()));
+  const int limit = box_.MaxLength() > 0 ? std::min(box_.MaxLength(), kNoLimit) + pairs : kNoLimit;
+  line_.setMaxLength(std::max(limit, static_cast<int>(text.size())));
+}
+
+void QtTextBoxPeer::applyContent() {
+  const QString text = toQString(box_.Text());
+  applyMaxLength();
+  if (line_.text() != text) line_.setText(text);
+  const int start = unitsBefore(text, box_.SelStart());
+  const int length = unitsBefore(text, box_.SelStart() + box_.SelLength()) - start;
+  const bool selected = line_.hasSelectedText();
+  if (length > 0 && (!selected || line_.selectionStart() != start || line_.selectionLength() != length))
+    line_.setSelection(start, length);
+  else if (length == 0 && (selected || line_.cursorPosition() != start))
+    line_.setCursorPosition(start);
+}
+
+void QtTextBoxPeer::reportText() {
+  report([this] {
+    const QString text = line_.text();
+    box_.userTyped(toUtf8(text), codePointsBefore(text, line_.cursorPosition()));
+  });
+}
+
+void QtTextBoxPeer::reportSelection() {
+  report([this] {
+    const QString text = line_.text();
+    const bool selected = line_.hasSelectedText();
+    const int from = selected ? line_.selectionStart() : line_.cursorPosition();
+    const int to = selected ? line_.selectionEnd() : from;
+    const std::int32_t start = codePointsBefore(text, from);
+    box_.userSelected(start, codePointsBefore(text, to) - start);
+  });
+}
+
+}  // namespace qrn::qt

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "host/text_box.h"
+#include "platform/qt/qt_child_peer.h"
+
+namespace qrn::qt {
+
+class QtTextBoxPeer final : public QtEditorPeer {
+ public:
+  QtTextBoxPeer(QtCanvas& canvas, host::TextBox& box);
+
+ private:
+  void applyContent() override;
+  void applyLook() override;
+  void applyEnabled() override;
+  void applyMaxLength();
+  void reportText();
+  void reportSelection();
+
+  host::TextBox& box_;
+  QLineEdit& line_;
+};
+
+/// Where a text box's alignment puts its text.
+Qt::Alignment horizontalAlignment(std::int32_t alignment);
+
+}  // namespace qrn::qt

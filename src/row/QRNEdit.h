@@ -1,0 +1,356 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "buttons/context_menu.h"
+#include "enums/enumerations.h"
+#include "host/editor.h"
+#include "host/image.h"
+#include "host/label.h"
+#include "host/text_box.h"
+#include "host/timer.h"
+#include "host/user_control.h"
+#include "row/value_settings.h"
+#include "values/QRNBitList.h"
+#include "values/QRNCheck.h"
+#include "values/QRNDropList.h"
+#include "values/clsQRNArray.h"
+
+namespace qrn {
+
+/// One parameter of a device as a row: caption, value editor, unit and up to two status icons.
+/// Lengths are in the row's own scale (pixels unless ScaleMode says otherwise).
+class QRNEdit final : public host::UserControl {
+ public:
+  QRNEdit();
+  ~QRNEdit() override;
+  std::string_view typeName() const override { return "QRNEdit"; }
+  const host::ClassTable& classTable() const override;
+
+  // ---- the row ----
+  std::int16_t ScaleMode() const { return scaleMode(); }
+  void SetScaleMode(std::int16_t mode);
+  host::Color BackColor() const { return backColor(); }
+  void SetBackColor(host::Color color);
+  host::Color ForeColor() const { return foreColor(); }
+  void SetForeColor(host::Color color);
+  using Control::Enabled;
+  void SetEnabled(bool enabled) override;
+  const host::FontPtr& Font() const { return font(); }
+  void SetFont(host::FontPtr font);
+  std::int32_t HorizontalSpacing() const { return horizontalSpacing_; }
+  void SetHorizontalSpacing(std::int32_t spacing) {
+    storeAndLayOut(horizontalSpacing_, spacing, "HorizontalSpacing");
+  }
+  /// How the parts lie in the width of the row.
+  std::int32_t Alignment() const { return alignment_; }
+  void SetAlignment(std::int32_t alignment) { storeAndLayOut(alignment_, alignment, "Alignment"); }
+  /// While False nothing is laid out. Run time only: 394 when read and 383 when set at design time.
+  bool Redraw() const;
+  void SetRedraw(bool redraw);
+
+  // ---- the caption ----
+  std::int32_t LabelWidth() const { return widthOf(lblLabel_); }
+  void SetLabelWidth(std::int32_t width) { setPartWidth(lblLabel_, width, "LabelWidth"); }
+  std::int32_t LabelAlignment() const { return lblLabel_.Alignment(); }
+  void SetLabelAlignment(std::int32_t alignment);
+  const std::string& LabelToolTip() const { return lblLabel_.ToolTipText(); }
+  void SetLabelToolTip(const std::string& text) { setPartToolTip(lblLabel_, text, "LabelToolTip"); }
+  const std::string& LabelText() const { return lblLabel_.Caption(); }
+  void SetLabelText(const std::string& text) { setPartCaption(lblLabel_, text, "LabelText"); }
+  bool LabelVisible() const { return labelVisible_; }
+  void SetLabelVisible(bool visible) { storeAndLayOut(labelVisible_, visible, "LabelVisible"); }
+
+  // ---- the icons ----
+  /// 1 before the caption, 2 before the value, 3 before the unit, 4 behind it; below 1 nowhere.
+  std::int32_t Icon1Column() const { return icon1_.column; }
+  void SetIcon1Column(std::int32_t column) { storeAndLayOut(icon1_.column, column, "Icon1Column"); }
+  const std::string& Icon1ToolTip() const { return icon1_.image.ToolTipText(); }
+  void SetIcon1ToolTip(const std::string& text) { setPartToolTip(icon1_.image, text, "Icon1ToolTip"); }
+  const host::PicturePtr& Icon1Picture() const { return icon1_.image.Picture(); }
+  void SetIcon1Picture(host::PicturePtr picture) {
+    setIconPicture(icon1_, std::move(picture), "Icon1Picture");
+  }
+  bool Icon1Visible() const { return icon1_.visible; }
+  void SetIcon1Visible(bool visible) { storeAndLayOut(icon1_.visible, visible, "Icon1Visible"); }
+  /// Not drawn, but its room stays.
+  bool Icon1Hidden() const { return icon1_.hidden; }
+  void SetIcon1Hidden(bool hidden) { setIconHidden(icon1_, hidden, "Icon1Hidden"); }
+  qrnButtonMode Icon1ButtonMode() const { return icon1_.mode; }
+  void SetIcon1ButtonMode(qrnButtonMode mode) { storeAndLayOut(icon1_.mode, mode, "Icon1ButtonMode"); }
+  std::int32_t Icon2Column() const { return icon2_.column; }
+  void SetIcon2Column(std::int32_t column) { storeAndLayOut(icon2_.column, column, "Icon2Column"); }
+  const std::string& Icon2ToolTip() const { return icon2_.image.ToolTipText(); }
+  void SetIcon2ToolTip(const std::string& text) { setPartToolTip(icon2_.image, text, "Icon2ToolTip"); }
+  const host::PicturePtr& Icon2Picture() const { return icon2_.image.Picture(); }
+  void SetIcon2Picture(host::PicturePtr picture) {
+    setIconPicture(icon2_, std::move(picture), "Icon2Picture");
+  }
+  bool Icon2Visible() const { return icon2_.visible; }
+  void SetIcon2Visible(bool visible) { storeAndLayOut(icon2_.visible, visible, "Icon2Visible"); }
+  bool Icon2Hidden() const { return icon2_.hidden; }
+  void SetIcon2Hidden(bool hidden) { setIconHidden(icon2_, hidden, "Icon2Hidden"); }
+  qrnButtonMode Icon2ButtonMode() const { return icon2_.mode; }
+  void SetIcon2ButtonMode(qrnButtonMode mode) { storeAndLayOut(icon2_.mode, mode, "Icon2ButtonMode"); }
+
+  // ---- the value ----
+  qrnValueType ValueType() const { return valueType_; }
+  void SetValueType(qrnValueType type);
+  /// 0 while there is no editor.
+  std::int32_t ValueWidth() const;
+  void SetValueWidth(std::int32_t width);
+  /// The value as the editor shows it; a hexadecimal row answers the decimal digits.
+  std::string ValueText();
+  void SetValueText(const std::string& text) { SetValue(Variant(text)); }
+  /// The typed value; Null where ValueError answers why.
+  Variant Value();
+  void SetValue(const Variant& value);
+  qrnErrorCode ValueError();
+  bool ValueChanged();
+  /// False takes the editor's content as the new accepted value.
+  void SetValueChanged(bool changed);
+  const std::string& ValueToolTip() const;
+  void SetValueToolTip(const std::string& text);
+  std::int32_t ValueAlignment() const { return valueAlignment_; }
+  void SetValueAlignment(std::int32_t alignment);
+  bool Locked() const { return locked_; }
+  void SetLocked(bool locked);
+  bool ValueVisible() const { return valueVisible_; }
+  void SetValueVisible(bool visible) { storeAndLayOut(valueVisible_, visible, "ValueVisible"); }
+  host::Color ValueForeColor() const;
+  void SetValueForeColor(host::Color color);
+  bool ValueUpperCase() const { return valueUpperCase_; }
+  void SetValueUpperCase(bool upperCase);
+  /// 0 to 65535; anything else is taken as 65535.
+  std::int32_t ValueMaxLength() const { return valueMaxLength_; }
+  void SetValueMaxLength(std::int32_t length);
+  bool Password() const { return password_; }
+  void SetPassword(bool password);
+  const std::string& ValueRule() const { return settings_.rule(); }
+  void SetValueRule(const std::string& rule);
+  const std::string& ValueCharSet() const { return settings_.charSet(); }
+  void SetValueCharSet(const std::string& charSet);
+  const std::string& ValueFormat() const { return settings_.format(); }
+  void SetValueFormat(const std::string& format);
+
+  // The entries of a list or bit field. Errors at design time: 394, and 383 when names and items are set.
+  std::int16_t ValueCount() const;
+  void SetValueCount(std::int16_t count);
+  std::string ValueNames(std::int32_t i) const;
+  void SetValueNames(std::int32_t i, const std::string& name);
+  std::int32_t ValueItems(std::int32_t i) const;
+  void SetValueItems(std::int32_t i, std::int32_t item);
+
+  // The elements of an array.
+  qrnValueType ArrayType() const;
+  void SetArrayType(qrnValueType type);
+  std::int32_t ArraySize() const;
+  void SetArraySize(std::int32_t size);
+  Variant ArrayValue(std::int32_t Index) const;
+  void SetArrayValue(std::int32_t Index, const Variant& value);
+  std::int32_t CurrentArrayValueIndex() const;
+  void SetCurrentArrayValueIndex(std::int32_t index);
+  Variant CurrentArrayValue() const;
+  void SetCurrentArrayValue(const Variant& value);
+
+  // ---- the unit ----
+  std::int32_t UnitWidth() const { return widthOf(lblUnit_); }
+  void SetUnitWidth(std::int32_t width) { setPartWidth(lblUnit_, width, "UnitWidth"); }
+  const std::string& UnitText() const { return lblUnit_.Caption(); }
+  void SetUnitText(const std::string& text) { setPartCaption(lblUnit_, text, "UnitText"); }
+  const std::string& UnitToolTip() const { return lblUnit_.ToolTipText(); }
+  void SetUnitToolTip(const std::string& text) { setPartToolTip(lblUnit_, text, "UnitToolTip"); }
+  std::int32_t UnitAlignment() const { return lblUnit_.Alignment(); }
+  void SetUnitAlignment(std::int32_t alignment);
+  bool UnitVisible() const { return unitVisible_; }
+  void SetUnitVisible(bool visible) { storeAndLayOut(unitVisible_, visible, "UnitVisible"); }
+
+  // ---- sizes ----
+  std::int32_t GetMinHeight() const;
+  std::int32_t GetIcon1Width() const { return iconWidth(icon1_); }
+  std::int32_t GetIcon2Width() const { return iconWidth(icon2_); }
+  std::int32_t GetMinLabelWidth() const;
+  std::int32_t GetMinValueWidth() const;
+  std::int32_t GetMinUnitWidth() const;
+  /// With nothing visible minus one spacing. Hidden icons count, invisible parts do not.
+  std::int32_t GetMinWidth() const;
+  /// The width beside caption, value and unit.
+  std::int32_t GetMinBruttoWidth() const;
+
+  void SetSelection(std::int32_t StartSel, std::int32_t SelLength);
+  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption);
+  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) const;
+  void RemoveMenuItem(std::int32_t Index);
+  void RemoveMenu();
+
+  Event<> Change;
+  Event<std::int16_t&> ItemCheck;
+  Event<> BackgroundClick;
+  Event<> LabelClick;
+  Event<> UnitClick;
+  Event<> Icon1Click;
+  Event<> Icon2Click;
+  Event<std::int16_t&> MenuClick;
+  Event<> Click;
+  Event<> StartEdit;
+  Event<bool&> EndEdit;
+  Event<std::int16_t&, std::int16_t&> KeyDown;
+  Event<std::int16_t&> KeyPress;
+  Event<std::int16_t&, std::int16_t&> KeyUp;
+  Event<> StatusChange;
+
+  // ---- the parts, for tests and platforms ----
+  host::Label& lblLabel() { return lblLabel_; }
+  host::Label& lblUnit() { return lblUnit_; }
+  host::Image& imgIcon1() { return icon1_.image; }
+  host::Image& imgIcon2() { return icon2_.image; }
+  /// The control in which the value is edited; null where the type has none.
+  host::Editor* CurrentEditor() const;
+
+  void paint(host::Surface& surface, Size size) override;
+  host::Control* focusTarget() override;
+  bool acceptsFocus() const override { return false; }
+
+  void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
+  void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  void childChanged(host::Control& child) override;
+  void childClicked(host::Control& child) override;
+  void childItemChecked(host::Control& child, std::int16_t item) override;
+  void childMouseDown(host::Control& child, host::MouseButton button, std::int16_t shift, Point at) override;
+  void childMouseMove(host::Control& child, std::int16_t buttons, std::int16_t shift, Point at) override;
+  void childMouseUp(host::Control& child, host::MouseButton button, std::int16_t shift, Point at) override;
+  void childKeyDown(host::Control& child, std::int16_t& keyCode, std::int16_t& shift) override;
+  void childKeyPress(host::Control& child, std::int16_t& keyAscii) override;
+  void childKeyUp(host::Control& child, std::int16_t& keyCode, std::int16_t& shift) override;
+
+ protected:
+  void initialize() override;
+  void resize() override { layOut(); }
+  void show() override;
+  void hide() override { redraw_ = false; }
+  void terminate() override;
+  void gotFocus() override;
+  void lostFocus() override;
+
+ private:
+  friend struct QRNEditTable;
+
+  struct Icon {
+    host::Image image;
+    std::int32_t column;
+    qrnButtonMode mode = qrnbuttonNone;
+    bool visible = true;
+    bool hidden = false;
+  };
+  enum class EditorKind : std::uint8_t { None, TextBox, Check, DropList, BitList, Array };
+  struct ReadResult {
+    Variant value = Null();
+    qrnErrorCode error = qrnErrorNone;
+  };
+
+  // ---- setters (QRNEdit.cpp) ----
+  template <class T>
+  bool store(T& field, const T& value, std::string_view key) {
+    if (field == value) return false;
+    field = value;
+    propertyChanged(key);
+    return true;
+  }
+  template <class T>
+  void storeAndLayOut(T& field, const T& value, std::string_view key) {
+    if (store(field, value, key)) layOut();
+  }
+  static std::int32_t widthOf(const host::Control& part);
+  void setPartWidth(host::Control& part, std::int32_t width, std::string_view key);
+  void setPartToolTip(host::Control& part, const std::string& text, std::string_view key);
+  void setPartCaption(host::Label& part, const std::string& text, std::string_view key);
+  void setIconPicture(Icon& icon, host::PicturePtr picture, std::string_view key);
+  void setIconHidden(Icon& icon, bool hidden, std::string_view key);
+
+  // ---- the editor (QRNEdit_editor.cpp) ----
+  static EditorKind editorKind(qrnValueType type);
+  void switchEditor(qrnValueType type);
+  void createEditor(EditorKind kind);
+  void removeEditor();
+  void applySettings();
+  void applyLocked();
+  void applyEnabled();
+  void applyUpperCase();
+  host::ListEditor* listEditor() const;
+  /// The control of the row in which the editor lies: the text box itself, or the user control around the
+  /// others.
+  host::Control* editorFrame() const;
+
+  // ---- the value (QRNEdit_value.cpp) ----
+  void showValue(const Variant& value);
+  void showText(const Variant& value);
+  void showList(const Variant& value);
+  void showBits(const Variant& value);
+  ReadResult readValue();
+  ReadResult readTyped();
+  ReadResult checkedNumber(const Variant& value) const;
+  std::string formatted(const Variant& value) const;
+  std::string bitsOfEditor() const;
+  std::optional<Variant> editorContent() const;
+  void correctDecimalSeparator();
+
+  // ---- layout (QRNEdit_layout.cpp) ----
+  void switchRedraw(bool redraw);
+  void layOut();
+  double placeParts(double x, bool move);
+  double placeIcons(std::int32_t column, double x, bool move);
+  void applyIconVisibility();
+  bool iconShown(const Icon& icon) const { return icon.column >= 1 && icon.visible && !icon.hidden; }
+  std::int32_t iconWidth(const Icon& icon) const;
+  std::int32_t textHeight() const;
+  std::int32_t rowHeight() const;
+
+  // ---- events (QRNEdit_events.cpp) ----
+  bool beginEdit();
+  bool endEdit();
+  Icon* iconOf(const host::Control& child);
+  void clickOn(host::Control& child);
+  void trackIcon(Icon& icon);
+  void stopTracking();
+  void paintIconFrame(host::Surface& surface, const Icon& icon);
+  void showContextMenu(bool atKeyboard);
+
+  host::Label lblLabel_;
+  host::Label lblUnit_;
+  Icon icon1_{{}, 1};
+  Icon icon2_{{}, 4};
+  host::TextBox* txtValue_ = nullptr;  // at most one of the four
+  QRNCheck* chkValue_ = nullptr;
+  QRNDropList* cboValue_ = nullptr;
+  QRNBitList* lstValue_ = nullptr;
+
+  Variant storedValue_;
+  Variant displayBaseline_;
+  ValueSettings settings_;
+  std::unique_ptr<clsQRNArray> array_;
+  std::unique_ptr<ContextMenu> menu_;
+  std::unique_ptr<struct IconTracking> tracking_;
+
+  qrnValueType valueType_ = qrnTypeString;
+  std::int32_t horizontalSpacing_ = 4;
+  std::int32_t alignment_ = 0;
+  std::int32_t valueAlignment_ = 0;
+  std::int32_t valueMaxLength_ = 65535;
+  std::int8_t changeDepth_ = 0;  // above 0 while a change of the editor is being handled
+  EditorKind editorKind_ = EditorKind::None;
+  bool labelVisible_ = true;
+  bool valueVisible_ = true;
+  bool unitVisible_ = true;
+  bool locked_ = false;
+  bool valueUpperCase_ = false;
+  bool password_ = false;
+  bool redraw_ = false;
+  bool editing_ = false;
+  bool leftPressed_ = false;
+};
+
+}  // namespace qrn

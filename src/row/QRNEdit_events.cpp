@@ -1,0 +1,211 @@
+#include <cmath>
+
+#include "row/QRNEdit.h"
+#include "row/icon_tracking.h"
+#include "values/bit_string.h"
+
+namespace qrn {
+namespace {
+
+constexpr std::int32_t kHoverInterval = 70;  // milliseconds
+
+bool isInside(const host::Control& part, Point at) {
+  const Size size = part.pixelSize();
+  return at.x >= 0 && at.x < size.width && at.y >= 0 && at.y < size.height;
+}
+
+}  // namespace
+
+// ---- the edit bracket ----
+
+bool QRNEdit::beginEdit() {
+  if (locked_ || editing_) return false;
+  editing_ = true;
+  raise(StartEdit, "StartEdit");
+  return true;
+}
+
+bool QRNEdit::endEdit() {
+  if (!CurrentEditor() || !editing_ || locked_) return false;
+  editing_ = false;
+  bool changed = ValueChanged();
+  raise(EndEdit, "EndEdit", changed);
+  return true;
+}
+
+void QRNEdit::gotFocus() {
+  const WeakRef<QRNEdit> self(this);
+  beginEdit();
+  if (self) UserControl::gotFocus();
+}
+
+void QRNEdit::lostFocus() {
+  const WeakRef<QRNEdit> self(this);
+  endEdit();
+  if (self) UserControl::lostFocus();
+}
+
+host::Control* QRNEdit::focusTarget() {
+  host::Editor* editor = CurrentEditor();
+  return editor && valueVisible_ && editor->acceptsFocus() ? editor : nullptr;
+}
+
+// ---- what the editor reports ----
+
+void QRNEdit::childChanged(host::Control& child) {
+  if (changeDepth_ > 0) return;
+  if (&child == txtValue_ && valueType_ == qrnTypeDouble) {
+    ++changeDepth_;
+    correctDecimalSeparator();
+    --changeDepth_;
+  }
+  raise(Change, "Change");
+}
+
+void QRNEdit::childClicked(host::Control&) { raise(Click, "Click"); }
+
+void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
+  if (changeDepth_ > 0 || !lstValue_ || &child != &lstValue_->List()) return;
+  if (!locked_) {
+    raise(ItemCheck, "ItemCheck", item);
+    return;
+  }
+  ++changeDepth_;
+  const auto* baseline = displayBaseline_.get<std::string>();
+  lstValue_->List().SetSelected(item, BitStringGet(baseline ? std::string_view(*baseline) : "", item));
+  --changeDepth_;
+}
+
+void QRNEdit::childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
+  if (keyCode == host::key::F10 && shift == host::shift::Shift && menu_) {
+    keyCode = 0;
+    showContextMenu(true);
+    return;
+  }
+  raise(KeyDown, "KeyDown", keyCode, shift);
+}
+
+void QRNEdit::childKeyPress(host::Control&, std::int16_t& keyAscii) { raise(KeyPress, "KeyPress", keyAscii); }
+
+void QRNEdit::childKeyUp(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
+  raise(KeyUp, "KeyUp", keyCode, shift);
+}
+
+// ---- clicks ----
+
+QRNEdit::Icon* QRNEdit::iconOf(const host::Control& child) {
+  if (&child == &icon1_.image) return &icon1_;
+  return &child == &icon2_.image ? &icon2_ : nullptr;
+}
+
+void QRNEdit::mouseDown(host::MouseButton button, std::int16_t, Point) {
+  if (button == host::MouseButton::Left) leftPressed_ = true;
+}
+
+void QRNEdit::mouseUp(host::MouseButton button, std::int16_t, Point at) {
+  const bool inside = isInside(*this, at);
+  if (button == host::MouseButton::Right && inside) showContextMenu(false);
+  if (button != host::MouseButton::Left || !leftPressed_) return;
+  leftPressed_ = false;
+  if (inside) raise(BackgroundClick, "BackgroundClick");
+}
+
+void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point) {
+  if (button != host::MouseButton::Left) return;
+  leftPressed_ = true;
+  // The caption of a Boolean parameter works its check box.
+  if (&child == &lblLabel_ && chkValue_ && !locked_) {
+    const WeakRef<QRNEdit> self(this);
+    SetFocus();
+    if (self && chkValue_) chkValue_->Check().userToggled();
+    return;
+  }
+  if (const Icon* icon = iconOf(child); icon && icon->mode != qrnbuttonNone) invalidate();
+}
+
+void QRNEdit::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point) {
+  Icon* icon = iconOf(child);
+  if (icon && icon->mode != qrnbuttonNone) trackIcon(*icon);
+}
+
+void QRNEdit::childMouseUp(host::Control& child, host::MouseButton button, std::int16_t, Point at) {
+  const bool inside = isInside(child, at);
+  if (button == host::MouseButton::Right && inside) showContextMenu(false);
+  if (button != host::MouseButton::Left || !leftPressed_) return;
+  leftPressed_ = false;
+  const Icon* icon = iconOf(child);
+  if (icon && icon->mode != qrnbuttonNone) invalidate();
+  if (inside) clickOn(child);
+}
+
+void QRNEdit::clickOn(host::Control& child) {
+  if (&child == &lblLabel_)
+    raise(LabelClick, "LabelClick");
+  else if (&child == &lblUnit_)
+    raise(UnitClick, "UnitClick");
+  else if (&child == &icon1_.image && icon1_.mode != qrnbuttonNone)
+    raise(Icon1Click, "Icon1Click");
+  else if (&child == &icon2_.image && icon2_.mode != qrnbuttonNone)
+    raise(Icon2Click, "Icon2Click");
+}
+
+void QRNEdit::showContextMenu(bool atKeyboard) {
+  if (!menu_) return;
+  Point at = platform().cursor();
+  if (atKeyboard) {
+    const auto third = [](double length, int factor) {
+      return static_cast<double>(factor * static_cast<std::int32_t>(std::nearbyint(length)) / 3);
+    };
+    at = platform().screenPosition(root()) + onSurface().topLeft() +
+         Point{third(ScaleWidth(), 1), third(ScaleHeight(), 2)};
+  }
+  const WeakRef<QRNEdit> self(this);
+  const auto chosen = menu_->show(platform(), at);
+  if (!chosen || !self) return;
+  auto index = static_cast<std::int16_t>(*chosen);
+  raise(MenuClick, "MenuClick", index);
+}
+
+// ---- icons ----
+
+void QRNEdit::trackIcon(Icon& icon) {
+  if (tracking_ && tracking_->image == &icon.image) return;
+  stopTracking();
+  tracking_ = std::make_unique<IconTracking>();
+  tracking_->image = &icon.image;
+  tracking_->timer = static_cast<host::Timer*>(&controls().add("VB.Timer", "tmrHit", *this));
+  tracking_->tick = tracking_->timer->Tick.connect([this] {
+    const Point cursor = platform().cursor() - platform().screenPosition(root());
+    if (!tracking_->image->shown() || !tracking_->image->visibleOnSurface().contains(cursor)) stopTracking();
+  });
+  tracking_->timer->SetInterval(kHoverInterval);
+  invalidate();
+}
+
+void QRNEdit::stopTracking() {
+  if (!tracking_) return;
+  tracking_->timer->SetEnabled(false);
+  tracking_.reset();
+  controls().remove("tmrHit");
+  invalidate();
+}
+
+void QRNEdit::paint(host::Surface& surface, Size size) {
+  surface.fill({0, 0, size.width, size.height}, BackColor());
+  paintIconFrame(surface, icon1_);
+  paintIconFrame(surface, icon2_);
+}
+
+// An embossed icon always has its frame; a flat one only while it is tracked.
+void QRNEdit::paintIconFrame(host::Surface& surface, const Icon& icon) {
+  const bool tracked = tracking_ && tracking_->image == &icon.image;
+  const bool embossed = icon.mode == qrnButtonEmbossed && icon.column >= 1 && icon.visible;
+  if (!tracked && !embossed) return;
+  const Rect image = pixelBounds(icon.image);
+  const Rect frame{image.left - 1, image.top - 1, image.width + 2, image.height + 2};
+  const bool pressed = tracked && leftPressed_;
+  surface.frame(frame, pressed ? host::kButtonShadow : host::kButtonHighlight,
+                pressed ? host::kButtonHighlight : host::kButtonShadow);
+}
+
+}  // namespace qrn

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "host/check_box.h"
+#include "host/label.h"
+#include "values/composite_editor.h"
+
+namespace qrn {
+
+/// The editor of Boolean values: a check box that fills the control, over a label that carries the tool tip,
+/// which a disabled check box would not show.
+class QRNCheck final : public CompositeEditor {
+ public:
+  std::string_view typeName() const override { return "QRNCheck"; }
+  const host::ClassTable& classTable() const override;
+
+  host::CheckBox& Check() { return chkValue_; }
+  host::CheckBox& inner() override { return chkValue_; }
+
+  void SetToolTipText(std::string_view text) override {
+    CompositeEditor::SetToolTipText(text);
+    lblBack_.SetToolTipText(text);
+  }
+
+ protected:
+  void initialize() override {
+    contain(lblBack_, *this, "lblBack");
+    contain(chkValue_, *this, "chkValue");
+  }
+  void resize() override {
+    lblBack_.Move(0, 0, ScaleWidth(), ScaleHeight());
+    CompositeEditor::resize();
+  }
+
+ private:
+  host::Label lblBack_;
+  host::CheckBox chkValue_;
+};
+
+}  // namespace qrn

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "enums/enumerations.h"
+#include "runtime/variant.h"
+
+namespace qrn {
+
+/// The elements of an array value, of which one is current. Indexes count from 0.
+class clsQRNArray final : public Object {
+ public:
+  std::string_view typeName() const override { return "clsQRNArray"; }
+
+  /// Kept for the caller; nothing is converted by it.
+  qrnValueType ArrayType() const { return arrayType_; }
+  void SetArrayType(qrnValueType type) { arrayType_ = type; }
+
+  std::int32_t Size() const { return size_; }
+  /// Above 0, the elements so far are gone and all are Empty; otherwise only the number is kept.
+  void SetSize(std::int32_t size);
+
+  /// Null outside the array.
+  Variant Value(std::int32_t Index) const;
+  /// Ignored outside the array.
+  void SetValue(std::int32_t Index, const Variant& value);
+
+  std::int32_t CurrentArrayValueIndex() const { return current_; }
+  void SetCurrentArrayValueIndex(std::int32_t index) { current_ = index; }
+  /// The first element when the current index lies outside. Errors: 9 while there are no elements at all.
+  const Variant& CurrentArrayValue() const;
+  /// Ignored when the current index lies outside.
+  void SetCurrentArrayValue(const Variant& value) { SetValue(current_, value); }
+
+ private:
+  bool holds(std::int32_t index) const { return index >= 0 && index < size_ && index < allocated(); }
+  std::int32_t allocated() const { return static_cast<std::int32_t>(elements_.size()); }
+
+  std::vector<Variant> elements_;
+  std::int32_t size_ = 0;
+  std::int32_t current_ = -1;
+  qrnValueType arrayType_ = qrnTypeString;
+};
+
+}  // namespace qrn

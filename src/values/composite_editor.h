@@ -1,0 +1,43 @@
+#pragma once
+
+#include "host/user_control.h"
+
+namespace qrn {
+
+/// A small user control that fills its area with one standard control and passes what happens to that one on
+/// to the row, which talks to the inner control directly.
+class CompositeEditor : public host::UserControl {
+ public:
+  std::int16_t ScaleMode() const { return scaleMode(); }
+  void SetScaleMode(std::int16_t mode);
+
+  virtual host::Control& inner() = 0;
+
+  host::Control* focusTarget() override { return inner().focusTarget(); }
+
+  void childChanged(host::Control& child) override { Parent()->childChanged(child); }
+  void childClicked(host::Control& child) override { Parent()->childClicked(child); }
+  void childItemChecked(host::Control& child, std::int16_t item) override {
+    Parent()->childItemChecked(child, item);
+  }
+  void childKeyDown(host::Control& child, std::int16_t& keyCode, std::int16_t& shift) override {
+    Parent()->childKeyDown(child, keyCode, shift);
+  }
+  void childKeyPress(host::Control& child, std::int16_t& keyAscii) override {
+    Parent()->childKeyPress(child, keyAscii);
+  }
+  void childKeyUp(host::Control& child, std::int16_t& keyCode, std::int16_t& shift) override {
+    Parent()->childKeyUp(child, keyCode, shift);
+  }
+  void childMouseDown(host::Control& child, host::MouseButton button, std::int16_t shift, Point at) override {
+    Parent()->childMouseDown(child, button, shift, at);
+  }
+  void childMouseUp(host::Control& child, host::MouseButton button, std::int16_t shift, Point at) override {
+    Parent()->childMouseUp(child, button, shift, at);
+  }
+
+ protected:
+  void resize() override { inner().Move(0, 0, ScaleWidth(), ScaleHeight()); }
+};
+
+}  // namespace qrn
