@@ -20,7 +20,8 @@
 
 namespace qrn::qt {
 
-QtCanvas::QtCanvas(QtPlatform& platform, host::UserControl& control) : platform_(platform), control_(&control) {
+QtCanvas::QtCanvas(QtPlatform& platform, host::UserControl& control)
+    : platform_(platform), control_(&control) {
   // A click on something that takes no focus leaves it where it is.
   setFocusPolicy(Qt::TabFocus);
   setMouseTracking(true);
@@ -30,9 +31,7 @@ QtCanvas::QtCanvas(QtPlatform& platform, host::UserControl& control) : platform_
 
 host::Input& QtCanvas::input() const { return control_->input(); }
 
-QSize QtCanvas::sizeHint() const {
-  return control_ ? toPixels(control_->onSurface()).size() : QSize();
-}
+QSize QtCanvas::sizeHint() const { return control_ ? toPixels(control_->onSurface()).size() : QSize(); }
 
 void QtCanvas::followSize() {
   if (!resizing_ && control_) resize(sizeHint());
@@ -58,7 +57,8 @@ void QtCanvas::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (!control_ || (event->type() != QEvent::PaletteChange && event->type() != QEvent::StyleChange)) return;
   platform_.appearanceChanged();
-  if (host::Control* focus = input().focus(); focus && focus->peer()) focus->peer()->changed(host::Aspect::Look);
+  if (host::Control* focus = input().focus(); focus && focus->peer())
+    focus->peer()->changed(host::Aspect::Look);
   update();
 }
 
@@ -151,7 +151,8 @@ void QtCanvas::mouseMoveEvent(QMouseEvent* event) {
   if (forwarder_.active()) return forwarder_.pass(*event);
   showCursorOver(event->position());
   guarded([&] {
-    input().mouseMove(mouseButtons(event->buttons()), shiftState(event->modifiers()), fromQt(event->position()));
+    input().mouseMove(mouseButtons(event->buttons()), shiftState(event->modifiers()),
+                      fromQt(event->position()));
   });
 }
 

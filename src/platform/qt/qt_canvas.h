@@ -4,6 +4,8 @@
 
 #include "platform/qt/qt_press_forwarder.h"
 
+class QHelpEvent;
+
 namespace qrn::host {
 class Control;
 class Input;

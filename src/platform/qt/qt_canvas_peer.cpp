@@ -5,15 +5,16 @@
 namespace qrn::qt {
 
 QtCanvasPeer::QtCanvasPeer(QtPlatform& platform, host::UserControl& control)
-    : QtPeer(new QtCanvas(platform, control)), control_(control) {}
+    : QtPeer(new QtCanvas(platform, control)), control_(control) {
+  showAsControl();
+}
 
 QtCanvasPeer::~QtCanvasPeer() {
   if (canvas()) canvas()->release();
 }
 
 void QtCanvasPeer::invalidate(const Rect& area) {
-  if (canvas())
-    canvas()->update(QRectF(area.left, area.top, area.width, area.height).toAlignedRect());
+  if (canvas()) canvas()->update(QRectF(area.left, area.top, area.width, area.height).toAlignedRect());
 }
 
 void QtCanvasPeer::takeFocus() {
@@ -23,12 +24,17 @@ void QtCanvasPeer::takeFocus() {
 void QtCanvasPeer::apply(host::Aspect aspect) {
   if (aspect == host::Aspect::Place) {
     canvas()->followSize();
-    // Never shown before its host has shown it.
-    if (canvas()->testAttribute(Qt::WA_WState_ExplicitShowHide)) canvas()->setVisible(control_.Visible());
-    else if (!control_.Visible()) canvas()->hide();
+    showAsControl();
   } else {
     canvas()->update();
   }
+}
+
+// Shown again only if it was hidden here: else it is the host's business when it is shown.
+void QtCanvasPeer::showAsControl() {
+  if (control_.Visible() != hidden_) return;
+  hidden_ = !hidden_;
+  canvas()->setVisible(!hidden_);
 }
 
 }  // namespace qrn::qt

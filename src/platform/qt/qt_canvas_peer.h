@@ -16,8 +16,10 @@ class QtCanvasPeer final : public QtPeer {
 
  private:
   void apply(host::Aspect aspect) override;
+  void showAsControl();
 
   host::UserControl& control_;
+  bool hidden_ = false;
 };
 
 }  // namespace qrn::qt

@@ -66,8 +66,7 @@ double QtFontMetrics::advance(std::string_view text) {
   for (std::size_t at = 0; at < text.size();) {
     const char32_t c = text::next(text, at);
     if (c < 0x20 || c >= kLetters || mayJoin(before, c)) return shaped(text);
-    if (before != 0)
-      width += kerning(static_cast<unsigned char>(before), static_cast<unsigned char>(c));
+    if (before != 0) width += kerning(static_cast<unsigned char>(before), static_cast<unsigned char>(c));
     width += letter(static_cast<unsigned char>(c));
     before = c;
   }

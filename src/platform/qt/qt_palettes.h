@@ -14,8 +14,8 @@ namespace qrn::qt {
 
 class QtPlatform;
 
-/// The palettes of editors, one for each pair of colours: the real editor and the painted one share it, and the
-/// style's own caches go by it.
+/// The palettes of editors, one for each pair of colours: the real editor and the painted one share it, and
+/// the style's own caches go by it.
 class QtPalettes {
  public:
   explicit QtPalettes(QtPlatform& platform) : platform_(platform) {}

@@ -16,8 +16,8 @@ namespace qrn::qt {
 class QtCanvas;
 
 /// What every peer with a widget has. The peer belongs to the control and the widget to its Qt parent: either
-/// may go first. A peer may be dropped by what its own widget reports, so the widget is only put away then and
-/// deleted by the event loop; after reporting anything, a peer may be gone.
+/// may go first. A peer may be dropped by what its own widget reports, so the widget is only put away then
+/// and deleted by the event loop; after reporting anything, a peer may be gone.
 class QtPeer : public host::Peer {
  public:
   QtPeer(const QtPeer&) = delete;

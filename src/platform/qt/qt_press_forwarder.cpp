@@ -35,8 +35,9 @@ bool QtPressForwarder::completeDoubleClick(QWidget& receiver, const QMouseEvent&
   firstClick_ = nullptr;
   const auto& hints = *QGuiApplication::styleHints();
   const auto apart = (press.globalPosition().toPoint() - firstClickAt_).manhattanLength();
-  const bool second = press.button() == Qt::LeftButton && apart <= hints.mouseDoubleClickDistance() &&
-                      press.timestamp() - firstClickTime_ <= static_cast<quint64>(hints.mouseDoubleClickInterval());
+  const bool second =
+      press.button() == Qt::LeftButton && apart <= hints.mouseDoubleClickDistance() &&
+      press.timestamp() - firstClickTime_ <= static_cast<quint64>(hints.mouseDoubleClickInterval());
   if (second) send(receiver, press, QEvent::MouseButtonDblClick);
   return second;
 }

@@ -38,7 +38,8 @@ QtSurface::QtSurface(QtPlatform& platform, QPainter& painter, const Rect& visibl
 double QtSurface::aligned(double at) const { return std::floor(at * scale_ + 0.5) / scale_; }
 
 QRectF QtSurface::aligned(const Rect& area) const {
-  return {QPointF(aligned(area.left), aligned(area.top)), QPointF(aligned(area.right()), aligned(area.bottom()))};
+  return {QPointF(aligned(area.left), aligned(area.top)),
+          QPointF(aligned(area.right()), aligned(area.bottom()))};
 }
 
 void QtSurface::enter(const Rect& area) {

@@ -1,0 +1,223 @@
+#include "platform/qt/qt_editor_painter.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+#include "host/check_box.h"
+#include "host/combo_box.h"
+#include "host/list_box.h"
+#include "host/text_box.h"
+#include "host/user_control.h"
+#include "host/v_scroll_bar.h"
+#include "platform/qt/qt_color.h"
+#include "platform/qt/qt_geometry.h"
+#include "platform/qt/qt_list_item.h"
+#include "platform/qt/qt_platform.h"
+#include "platform/qt/qt_surface.h"
+#include "platform/qt/qt_text.h"
+#include "platform/qt/qt_text_box_peer.h"
+
+namespace qrn::qt {
+namespace {
+
+constexpr std::size_t kMostFrames = 256;
+// What a line edit keeps free beside its text, within the frame.
+constexpr int kTextMargin = 2;
+
+QStyle& style() { return *QApplication::style(); }
+
+// The state of a widget of an active window that has no focus.
+void setState(QStyleOption& option, const QRect& place, const QPalette& palette, bool enabled) {
+  option.rect = place;
+  option.palette = palette;
+  option.palette.setCurrentColorGroup(enabled ? QPalette::Active : QPalette::Disabled);
+  option.state = QStyle::State_Active;
+  option.state.setFlag(QStyle::State_Enabled, enabled);
+  option.direction = QGuiApplication::layoutDirection();
+}
+
+QStyleOptionFrame lineEditOption(const QRect& place, const QPalette& palette, const host::TextBox& box) {
+  QStyleOptionFrame option;
+  setState(option, place, palette, box.Enabled());
+  option.lineWidth = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &option);
+  option.midLineWidth = 0;
+  option.state |= QStyle::State_Sunken;
+  option.state.setFlag(QStyle::State_ReadOnly, box.Locked());
+  return option;
+}
+
+// A line edit shows characters without a glyph as blanks, and hidden ones as the style says.
+QString displayed(const host::TextBox& box) {
+  QString text = toQString(box.Text());
+  if (!box.PasswordChar().empty()) {
+    text.fill(QChar(style().styleHint(QStyle::SH_LineEdit_PasswordCharacter)));
+    return text;
+  }
+  for (QChar& c : text) {
+    const bool blank = (c.unicode() < 0x20 && c != QChar::Tabulation) || c == QChar::LineSeparator ||
+                       c == QChar::ParagraphSeparator || c == QChar::ObjectReplacementCharacter;
+    if (blank) c = QChar::Space;
+  }
+  return text;
+}
+
+// How far a line edit moves a text of this width to the left; one that is too wide starts at its beginning.
+int scrolledBy(Qt::Alignment alignment, int width, int room) {
+  if (width > room || alignment == Qt::AlignLeft) return 0;
+  return alignment == Qt::AlignRight ? width - room + 1 : (width - room) / 2;
+}
+
+QColor textColor(const QPalette& palette, bool enabled) {
+  return palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
+}
+
+}  // namespace
+
+void QtEditorPainter::paint(QtSurface& surface, const host::Control& control) {
+  const Size size = control.pixelSize();
+  const Point at = surface.origin();
+  const QRect place = toPixels({at.x, at.y, size.width, size.height});
+  if (place.isEmpty()) return;
+  QPainter& painter = surface.clippedPainter();
+  painter.save();
+  if (const auto* box = dynamic_cast<const host::TextBox*>(&control))
+    paintText(painter, place, *box);
+  else if (const auto* check = dynamic_cast<const host::CheckBox*>(&control))
+    paintCheck(painter, place, *check);
+  else if (const auto* combo = dynamic_cast<const host::ComboBox*>(&control))
+    paintCombo(painter, place, *combo);
+  else if (const auto* list = dynamic_cast<const host::ListBox*>(&control))
+    paintList(painter, place, *list);
+  else if (const auto* bar = dynamic_cast<const host::VScrollBar*>(&control))
+    paintScrollBar(painter, place, *bar);
+  painter.restore();
+}
+
+// Kept with what lies behind it, as an opaque picture is drawn many times faster than the style's frame.
+void QtEditorPainter::paintFrame(QPainter& painter, const QRect& place, const host::Editor& editor, char kind,
+                                 int state, const DrawFrame& draw) {
+  const double scale = painter.device()->devicePixelRatioF();
+  const host::Color behind = platform_.resolve(editor.Parent()->backColor());
+  const qint64 palette = platform_.palettes().of(editor).cacheKey();
+  const FrameKey key{kind, state, place.width(), place.height(), scale, palette, behind};
+  if (frames_.size() >= kMostFrames) frames_.clear();
+  QPixmap& frame = frames_[key];
+  if (frame.isNull()) {
+    frame = QPixmap(QSize(static_cast<int>(std::ceil(place.width() * scale)),
+                          static_cast<int>(std::ceil(place.height() * scale))));
+    frame.setDevicePixelRatio(scale);
+    frame.fill(toQColor(behind));
+    QPainter framePainter(&frame);
+    draw(framePainter, QRect(QPoint(0, 0), place.size()));
+  }
+  painter.drawPixmap(place.topLeft(), frame);
+}
+
+void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const host::TextBox& box) {
+  const QPalette& palette = platform_.palettes().of(box);
+  const int state = (box.Enabled() ? 1 : 0) | (box.Locked() ? 2 : 0);
+  paintFrame(painter, place, box, 't', state, [&](QPainter& into, const QRect& at) {
+    const QStyleOptionFrame option = lineEditOption(at, palette, box);
+    style().drawPrimitive(QStyle::PE_PanelLineEdit, &option, &into);
+  });
+  if (box.Text().empty()) return;
+
+  const QStyleOptionFrame option = lineEditOption(place, palette, box);
+  const QRect inside = style().subElementRect(QStyle::SE_LineEditContents, &option);
+  QtFontMetrics& metrics = platform_.metrics(*box.Font());
+  const int height = static_cast<int>(metrics.height());
+  const QRect line(inside.x() + kTextMargin, inside.y() + (inside.height() - height + 1) / 2,
+                   inside.width() - 2 * kTextMargin, height);
+  const QString text = displayed(box);
+  const int width = qRound(metrics.advance(toUtf8(text))) + 1;
+  const int left = line.x() - scrolledBy(horizontalAlignment(box.Alignment()), width, line.width());
+  painter.setClipRect(inside, Qt::IntersectClip);
+  painter.setFont(metrics.font());
+  painter.setPen(textColor(palette, box.Enabled()));
+  painter.drawText(QPointF(left, line.y() + metrics.ascent()), text);
+}
+
+void QtEditorPainter::paintCheck(QPainter& painter, const QRect& place, const host::CheckBox& box) {
+  const int state = (box.Enabled() ? 1 : 0) | (box.Value() != 0 ? 2 : 0);
+  paintFrame(painter, place, box, 'c', state, [&](QPainter& into, const QRect& at) {
+    QStyleOptionButton option;
+    setState(option, at, platform_.palettes().of(box), box.Enabled());
+    option.state |= box.Value() != 0 ? QStyle::State_On : QStyle::State_Off;
+    style().drawControl(QStyle::CE_CheckBox, &option, &into);
+  });
+}
+
+void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const host::ComboBox& box) {
+  const QFont& font = platform_.metrics(*box.Font()).font();
+  const QPalette& palette = platform_.palettes().of(box);
+  QStyleOptionComboBox option;
+  setState(option, place, palette, box.Enabled());
+  option.fontMetrics = QFontMetrics(font);
+  option.editable = false;
+  option.frame = true;
+  option.subControls = QStyle::SC_All;
+  option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_SmallIconSize, &option);
+  paintFrame(painter, place, box, 'o', box.Enabled() ? 1 : 0, [&](QPainter& into, const QRect& at) {
+    QStyleOptionComboBox frame = option;
+    frame.rect = at;
+    style().drawComplexControl(QStyle::CC_ComboBox, &frame, &into);
+  });
+  option.currentText = toQString(box.Text());
+  painter.setFont(font);
+  painter.setPen(textColor(palette, box.Enabled()));
+  style().drawControl(QStyle::CE_ComboBoxLabel, &option, &painter);
+}
+
+void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const host::ListBox& list) {
+  const QPalette& palette = platform_.palettes().of(list);
+  QStyleOptionFrame frame;
+  setState(frame, place, palette, list.Enabled());
+  frame.frameShape = QFrame::StyledPanel;
+  frame.lineWidth = 1;
+  frame.midLineWidth = 0;
+  frame.state |= QStyle::State_Sunken;
+  const int edge = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &frame);
+  const QRect inside = place.adjusted(edge, edge, -edge, -edge);
+  painter.fillRect(inside, frame.palette.brush(QPalette::Base));
+  style().drawControl(QStyle::CE_ShapedFrame, &frame, &painter);
+
+  const QFont& font = platform_.metrics(*list.Font()).font();
+  const int height = listItemHeight(font), all = height * list.ListCount();
+  QRect entries = inside;
+  if (all > inside.height()) {
+    const int width = style().pixelMetric(QStyle::PM_ScrollBarExtent, &frame);
+    QStyleOptionSlider bar;
+    setState(bar, QRect(inside.right() + 1 - width, inside.y(), width, inside.height()), palette,
+             list.Enabled());
+    bar.orientation = Qt::Vertical;
+    bar.maximum = all - inside.height();
+    bar.pageStep = inside.height();
+    bar.subControls = QStyle::SC_All;
+    style().drawComplexControl(QStyle::CC_ScrollBar, &bar, &painter);
+    entries.setRight(inside.right() - width);
+  }
+  painter.setClipRect(entries, Qt::IntersectClip);
+  for (int i = 0, top = entries.top(); i < list.ListCount() && top <= entries.bottom(); ++i, top += height) {
+    const QtListItem item{toQString(list.List(i)), list.Selected(i), list.Enabled(), false};
+    item.paint(painter, QRect(entries.left(), top, entries.width(), height), palette, font);
+  }
+}
+
+void QtEditorPainter::paintScrollBar(QPainter& painter, const QRect& place, const host::VScrollBar& bar) {
+  QStyleOptionSlider option;
+  setState(option, place, QApplication::palette(), bar.Enabled());
+  option.orientation = Qt::Vertical;
+  option.minimum = bar.Min();
+  option.maximum = std::max(bar.Min(), bar.Max());
+  option.sliderPosition = option.sliderValue = bar.Value();
+  option.pageStep = bar.LargeChange();
+  option.singleStep = bar.SmallChange();
+  option.subControls = QStyle::SC_All;
+  style().drawComplexControl(QStyle::CC_ScrollBar, &option, &painter);
+}
+
+}  // namespace qrn::qt

@@ -1,0 +1,155 @@
+#include "platform/qt/qt_platform.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QFontInfo>
+#include <QScreen>
+#include <QStyle>
+#include <QStyleOption>
+#include <algorithm>
+
+#include "host/user_control.h"
+#include "platform/qt/qt_canvas_peer.h"
+#include "platform/qt/qt_check_box_peer.h"
+#include "platform/qt/qt_color.h"
+#include "platform/qt/qt_combo_box_peer.h"
+#include "platform/qt/qt_geometry.h"
+#include "platform/qt/qt_list_box_peer.h"
+#include "platform/qt/qt_menu.h"
+#include "platform/qt/qt_scroll_bar_peer.h"
+#include "platform/qt/qt_surface.h"
+#include "platform/qt/qt_text.h"
+#include "platform/qt/qt_text_box_peer.h"
+
+namespace qrn::qt {
+namespace {
+
+// Points at 96 to the inch, as controls count them.
+host::FontPtr applicationFont() {
+  const QFont font = QApplication::font();
+  constexpr double kPointsToAPixel = 72.0 / 96;
+  return std::make_shared<host::Font>(toUtf8(font.family()), QFontInfo(font).pixelSize() * kPointsToAPixel,
+                                      font.bold(), font.italic());
+}
+
+QtCanvas* canvasOf(const host::Control& control) {
+  // Every peer of a surface was made here.
+  auto* peer = static_cast<QtCanvasPeer*>(control.root().peer());
+  return peer ? peer->canvas() : nullptr;
+}
+
+bool widgetIsGone(const host::Control& control) {
+  const auto* peer = static_cast<const QtPeer*>(control.peer());
+  return peer && !peer->widget();
+}
+
+// What has a widget wherever its surface has one: scroll bars, and the editor with the focus.
+void realiseInside(host::ContainerControl& container) {
+  for (host::Control* control : container.contained()) {
+    if (widgetIsGone(*control)) control->dropPeer();
+    const host::PeerPolicy policy = control->peerPolicy();
+    const bool focused = policy == host::PeerPolicy::WhenFocused && control->input().focus() == control;
+    if (focused || (policy == host::PeerPolicy::WhenShown && control->Visible())) control->realise();
+    if (focused) control->peer()->takeFocus();
+    if (auto* inner = dynamic_cast<host::ContainerControl*>(control)) realiseInside(*inner);
+  }
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform() : defaultFont_(applicationFont()), palettes_(*this), editorPainter_(*this) {}
+
+QWidget* QtPlatform::widget(host::UserControl& control) {
+  if (widgetIsGone(control)) control.dropPeer();
+  if (!control.peer()) {
+    control.realise();
+    realiseInside(control);
+  }
+  return canvasOf(control);
+}
+
+std::unique_ptr<host::Peer> QtPlatform::realise(host::Control& control) {
+  if (control.peerPolicy() == host::PeerPolicy::Surface)
+    return std::make_unique<QtCanvasPeer>(*this, static_cast<host::UserControl&>(control));
+  QtCanvas* canvas = canvasOf(control);
+  if (!canvas) return nullptr;
+  if (auto* box = dynamic_cast<host::TextBox*>(&control))
+    return std::make_unique<QtTextBoxPeer>(*canvas, *box);
+  if (auto* box = dynamic_cast<host::CheckBox*>(&control))
+    return std::make_unique<QtCheckBoxPeer>(*canvas, *box);
+  if (auto* box = dynamic_cast<host::ComboBox*>(&control))
+    return std::make_unique<QtComboBoxPeer>(*canvas, *box);
+  if (auto* list = dynamic_cast<host::ListBox*>(&control))
+    return std::make_unique<QtListBoxPeer>(*canvas, *list);
+  if (auto* bar = dynamic_cast<host::VScrollBar*>(&control))
+    return std::make_unique<QtScrollBarPeer>(*canvas, *bar);
+  return nullptr;
+}
+
+QtFontMetrics& QtPlatform::metrics(const host::Font& font) {
+  for (auto& [known, metrics] : metrics_) {
+    if (known == font) return metrics;
+  }
+  return metrics_.emplace_back(font, font).second;
+}
+
+std::optional<int> QtPlatform::popUp(host::PopupMenu& menu, Point screen) { return chooseFrom(menu, screen); }
+
+Point QtPlatform::cursor() const { return fromQt(QPointF(QCursor::pos())); }
+
+Point QtPlatform::screenPosition(const host::Control& control) const {
+  const QtCanvas* canvas = canvasOf(control);
+  return canvas ? fromQt(canvas->mapToGlobal(QPointF(0, 0))) : Point{};
+}
+
+host::Color QtPlatform::system(host::SystemColor which) const {
+  const QPalette palette = QApplication::palette();
+  const auto color = [&](QPalette::ColorRole role) { return fromQt(palette.color(QPalette::Active, role)); };
+  switch (which) {
+    using enum host::SystemColor;
+    case WindowBackground: return color(QPalette::Base);
+    case WindowText: return color(QPalette::Text);
+    case ButtonFace: return color(QPalette::Window);
+    case ButtonText: return color(QPalette::WindowText);
+    case GrayText: return fromQt(palette.color(QPalette::Disabled, QPalette::Text));
+    case ButtonHighlight: return color(QPalette::Light);
+    case ButtonShadow: return color(QPalette::Dark);
+    case ButtonDarkShadow:
+    case WindowFrame: return color(QPalette::Shadow);
+    case Highlight:
+    case ActiveCaption: return color(QPalette::Highlight);
+    case HighlightText:
+    case ActiveCaptionText: return color(QPalette::HighlightedText);
+    case InactiveCaption: return color(QPalette::Mid);
+    case InactiveCaptionText: return color(QPalette::WindowText);
+  }
+  return color(QPalette::WindowText);
+}
+
+void QtPlatform::paintControl(host::Surface& surface, const host::Control& control) {
+  editorPainter_.paint(static_cast<QtSurface&>(surface), control);
+}
+
+double QtPlatform::scrollBarWidth() const {
+  return QApplication::style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+}
+
+double QtPlatform::comboBoxHeight(const host::Font& font) {
+  const double text = metrics(font).height();
+  QStyleOptionComboBox option;
+  option.fontMetrics = QFontMetrics(metrics(font).font());
+  const QSize inside(0, static_cast<int>(text));
+  const QSize whole = QApplication::style()->sizeFromContents(QStyle::CT_ComboBox, &option, inside);
+  return std::max(text + 8, static_cast<double>(whole.height()));
+}
+
+void QtPlatform::beep() { QApplication::beep(); }
+
+std::string QtPlatform::applicationName() const { return toUtf8(QApplication::applicationName()); }
+
+void QtPlatform::appearanceChanged() {
+  palettes_.forget();
+  editorPainter_.forgetFrames();
+}
+
+}  // namespace qrn::qt
