@@ -67,6 +67,10 @@ void Control::Move(double left, double top, double width, double height) {
   invalidate();
   bounds_ = target;
   if (peer_) peer_->changed(Aspect::Place);
+  // The one editor with a native widget may lie inside, and moves along.
+  if (Control* focus = container_ ? input().focus() : nullptr;
+      focus && focus != this && focus->peer() && hasFocus())
+    focus->peer()->changed(Aspect::Place);
   invalidate();
   moved(before);
 }

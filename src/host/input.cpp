@@ -96,7 +96,11 @@ Control* Input::mouseDown(MouseButton button, std::int16_t shiftState, Point at)
   if (Control* wish = target->acceptsFocus() ? target : nullptr) {
     setFocus(wish);
     if (!root || !guard) return nullptr;
-    if (target->peer()) return target;
+    if (target->peer()) {
+      // The widget follows the mouse from here on, and nobody reports the release.
+      capture_ = nullptr;
+      return target;
+    }
   }
   const Point local = target->fromSurface(at);
   if (auto* user = asUserControl(target))
