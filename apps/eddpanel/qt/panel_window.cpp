@@ -11,11 +11,12 @@ constexpr int kTickInterval = 100;  // milliseconds
 }  // namespace
 
 PanelWindow::PanelWindow(qt::QtPlatform& platform, DevicePanels& panels, const QString& title)
-    : platform_(platform), panels_(panels), list_(new QListWidget), splitter_(new QSplitter) {
+    : platform_(platform), panels_(panels), list_(new QListWidget), layout_(new QHBoxLayout) {
   setWindowTitle(title);
-  splitter_->addWidget(list_);
-  splitter_->setChildrenCollapsible(false);
-  setCentralWidget(splitter_);
+  auto* middle = new QWidget;
+  middle->setLayout(layout_);
+  layout_->addWidget(list_);
+  setCentralWidget(middle);
   statusBar();
   resize(900, 620);
   listPanels();
@@ -34,8 +35,7 @@ PanelWindow::~PanelWindow() {
 
 void PanelWindow::listPanels() {
   for (const edd::Menu* menu : panels_.menus()) list_->addItem(QString::fromStdString(menu->label));
-  list_->setMaximumWidth(list_->sizeHintForColumn(0) + 40);
-  list_->setMinimumWidth(140);
+  list_->setFixedWidth(list_->sizeHintForColumn(0) + 40);
 }
 
 void PanelWindow::open(const edd::Menu& menu) {
@@ -47,8 +47,7 @@ void PanelWindow::open(const edd::Menu& menu) {
     shown_->setParent(nullptr);
   }
   shown_ = widget;
-  splitter_->addWidget(widget);
-  splitter_->setStretchFactor(1, 1);
+  layout_->addWidget(widget, 1);
   widget->show();
   connections_.clear();
   connections_.push_back(panel.SubmenuChosen.connect([this](const edd::Menu& chosen) {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QHBoxLayout>
 #include <QListWidget>
 #include <QMainWindow>
-#include <QSplitter>
 #include <QTimer>
 
 #include "device_panels.h"
@@ -24,7 +24,7 @@ class PanelWindow final : public QMainWindow {
   qt::QtPlatform& platform_;
   DevicePanels& panels_;
   QListWidget* list_;
-  QSplitter* splitter_;
+  QHBoxLayout* layout_;
   QWidget* shown_ = nullptr;
   QTimer timer_;
   std::vector<Connection> connections_;
