@@ -172,7 +172,9 @@ void QRNDisplay::applyScroll() { pbxContainer_.scrollTo(sbrVertical_.Value()); }
 
 bool QRNDisplay::wheel(double notches) {
   if (!sbrVertical_.Visible()) return false;
-  sbrVertical_.userScrolled(sbrVertical_.Value() - scrollNumber(notches * sbrVertical_.SmallChange()));
+  const std::int32_t wished = sbrVertical_.Value() - scrollNumber(notches * sbrVertical_.SmallChange());
+  sbrVertical_.SetValue(std::clamp(wished, sbrVertical_.Min(), sbrVertical_.Max()));
+  applyScroll();
   return true;
 }
 
