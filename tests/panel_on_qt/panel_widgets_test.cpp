@@ -1,0 +1,123 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <QWidget>
+
+#include "display/QRNDisplay.h"
+#include "display/library.h"
+#include "platform/qt/qt_site.h"
+
+namespace qrn {
+namespace {
+
+/// A panel of 1,000 rows of all kinds in a window of Qt.
+class PanelOnQt : public ::testing::Test {
+ protected:
+  static constexpr int kRows = 1000;
+
+  PanelOnQt() {
+    registerControls();
+    panel = host::create<QRNDisplay>(site);
+    constexpr qrnValueType kTypes[] = {qrnTypeDouble, qrnTypeList, qrnTypeBoolean, qrnTypeString};
+    for (int i = 0; i < kRows; ++i) {
+      QRNEdit& row = panel->Items().AddParameter("", kTypes[i % 4])->Control();
+      row.SetLabelText("Row " + std::to_string(i + 1));
+      row.SetUnitText("mm");
+      if (row.ValueType() == qrnTypeList) row.SetValueNames(0, "first"), row.SetValueNames(1, "second");
+      if (row.ValueType() == qrnTypeDouble) row.SetValue(1.5);
+    }
+    panel->LayoutControls(false);
+    canvas = platform.widget(*panel);
+    canvas->resize(400, 300);
+    canvas->show();
+    settle();
+  }
+
+  QRNEdit& row(int position) {
+    return static_cast<clsQRNParam&>(*panel->Items().Item(Variant(position))).Control();
+  }
+  /// Runs the event loop until nothing is left to do, deletions included.
+  static void settle() {
+    QTest::qWait(0);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  int widgets() const {
+    settle();
+    return static_cast<int>(canvas->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size());
+  }
+  template <class Widget>
+  Widget* only() const {
+    settle();
+    const auto found = canvas->findChildren<Widget*>(Qt::FindDirectChildrenOnly);
+    return found.size() == 1 ? found.front() : nullptr;
+  }
+  QPoint middleOf(host::Control& control) const {
+    const Rect at = control.visibleOnSurface();
+    return {static_cast<int>(at.left + at.width / 2), static_cast<int>(at.top + at.height / 2)};
+  }
+  void clicks(host::Control& control) {
+    QTest::mouseClick(canvas, Qt::LeftButton, Qt::NoModifier, middleOf(control));
+  }
+
+  qt::QtPlatform platform;
+  qt::QtSite site{platform};
+  host::Owned<QRNDisplay> panel;
+  QWidget* canvas = nullptr;
+};
+
+TEST_F(PanelOnQt, HasAScrollBarAndNoEditorUntilOneGetsTheFocus) {
+  EXPECT_EQ(widgets(), 1);
+  EXPECT_NE(only<QScrollBar>(), nullptr);
+}
+
+TEST_F(PanelOnQt, HasOneEditorAfterClicksOnMany) {
+  for (const int position : {1, 2, 4, 5}) clicks(*row(position).CurrentEditor());
+  EXPECT_EQ(widgets(), 2);
+  EXPECT_NE(only<QLineEdit>(), nullptr);
+}
+
+TEST_F(PanelOnQt, KeepsTheEditorAndItsFocusWhenItIsScrolledOutOfView) {
+  clicks(*row(1).CurrentEditor());
+  only<QScrollBar>()->setValue(5000);
+  EXPECT_EQ(widgets(), 2);
+  EXPECT_TRUE(row(1).hasFocus());
+  EXPECT_TRUE(only<QLineEdit>()->hasFocus());
+  only<QScrollBar>()->setValue(0);
+  QTest::keyClicks(only<QLineEdit>(), "7");
+  EXPECT_NE(row(1).ValueText().find('7'), std::string::npos);
+}
+
+TEST_F(PanelOnQt, ScrollsWithTheBarAndTheWheelAlike) {
+  only<QScrollBar>()->setValue(100);
+  EXPECT_EQ(panel->sbrVertical().Value(), 100);
+  EXPECT_EQ(panel->ControlsContainer().scrolledBy(), 100);
+  panel->wheel(-1);
+  EXPECT_EQ(only<QScrollBar>()->value(), panel->sbrVertical().Value());
+  EXPECT_EQ(panel->ControlsContainer().scrolledBy(), panel->sbrVertical().Value());
+  EXPECT_GT(panel->sbrVertical().Value(), 100);
+}
+
+TEST_F(PanelOnQt, GoesOnToTheNextRowWithTabAndBringsItIntoView) {
+  clicks(*row(1).CurrentEditor());
+  for (int i = 0; i < 40; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_TRUE(row(41).hasFocus());
+  EXPECT_FALSE(row(41).CurrentEditor()->visibleOnSurface().empty());
+  EXPECT_EQ(widgets(), 2);
+}
+
+TEST_F(PanelOnQt, LosesNoWidgetWhenTheFocusedRowIsRemoved) {
+  clicks(*row(1).CurrentEditor());
+  panel->Items().Remove(Variant(1));
+  EXPECT_EQ(widgets(), 1);
+}
+
+TEST_F(PanelOnQt, HidesTheScrollBarWhenEverythingFits) {
+  panel->RemoveControls();
+  EXPECT_EQ(widgets(), 0);
+}
+
+}  // namespace
+}  // namespace qrn
