@@ -7,7 +7,8 @@
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   // What is set on the machine must not decide how large anything is.
-  qputenv("QT_SCALE_FACTOR", "1");
+  const QByteArray scale = qgetenv("QRN_TEST_SCALE");
+  qputenv("QT_SCALE_FACTOR", scale.isEmpty() ? "1" : scale);
   testing::InitGoogleTest(&argc, argv);
   QApplication application(argc, argv);
   application.setApplicationName("qt_tests");

@@ -24,7 +24,7 @@ T& TestPanel::add(std::string_view name, double top, double height) {
 void TestPanel::initialize() {
   controls().add(host::Owned<host::Control>(&box_), "box", *this);
   Move(0, 0, 220, 200);
-  box_.Move(0, 0, 200, 200);
+  box_.Move(0, 0, 200, 190);
   text_ = &add<host::TextBox>("text", 10, kRow);
   second_ = &add<host::TextBox>("second", 40, kRow);
   check_ = &add<host::CheckBox>("check", 70, kRow);
@@ -44,7 +44,8 @@ void TestPanel::initialize() {
 
 void TestPanel::note(std::string what) {
   heard.push_back(what);
-  if (listener) listener(what);
+  // A copy, as the listener may remove the panel.
+  if (const auto call = listener) call(what);
 }
 
 void TestPanel::paint(host::Surface& surface, Size size) {

@@ -1,6 +1,7 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "platform/qt/qt_text.h"
 #include "test_panel.h"
 
 namespace qrn::qt {
@@ -34,6 +35,70 @@ TEST_F(TextBoxPeer, TypingReportsTextAndCaret) {
   EXPECT_EQ(panel->text().Text(), "xalpha beta");
   EXPECT_EQ(panel->text().SelStart(), 1);
   EXPECT_TRUE(heard("text Change \"xalpha beta\""));
+}
+
+TEST_F(TextBoxPeer, PositionsCountCodePoints) {
+  panel->text().SetText("a\U0001F600b");
+  panel->text().SetFocus();
+  auto* line = shown<QLineEdit>();
+  line->setCursorPosition(3);
+  EXPECT_EQ(panel->text().SelStart(), 2);
+  QTest::keyClicks(line, "x");
+  EXPECT_EQ(panel->text().Text(), "a\U0001F600xb");
+  panel->text().select(1, 1);
+  EXPECT_EQ(line->selectionStart(), 1);
+  EXPECT_EQ(line->selectionLength(), 2);
+}
+
+TEST_F(TextBoxPeer, WhatTheProgramWritesIsShownAndNotReported) {
+  panel->text().SetFocus();
+  panel->text().SetText("new");
+  panel->text().select(1, 2);
+  EXPECT_EQ(shown<QLineEdit>()->text(), "new");
+  EXPECT_EQ(shown<QLineEdit>()->selectedText(), "ew");
+  EXPECT_EQ(panel->heard, std::vector<std::string>{"text GotFocus"});
+}
+
+TEST_F(TextBoxPeer, NoMoreIsTypedThanFits) {
+  panel->text().SetText("\U0001F600");
+  panel->text().SetMaxLength(3);
+  panel->text().SetFocus();
+  QTest::keyClicks(shown<QLineEdit>(), "abc");
+  EXPECT_EQ(panel->text().Text(), "ab\U0001F600");
+  EXPECT_EQ(toUtf8(shown<QLineEdit>()->text()), panel->text().Text());
+}
+
+TEST_F(TextBoxPeer, TypedLettersBecomeCapitalsAndTheCaretStays) {
+  panel->text().setUpperCase(true);
+  panel->text().SetText("AC");
+  panel->text().SetFocus();
+  shown<QLineEdit>()->setCursorPosition(1);
+  QTest::keyClicks(shown<QLineEdit>(), "b");
+  EXPECT_EQ(shown<QLineEdit>()->text(), "ABC");
+  EXPECT_EQ(shown<QLineEdit>()->cursorPosition(), 2);
+}
+
+TEST_F(TextBoxPeer, ALockedBoxSelectsButDoesNotChange) {
+  panel->text().SetLocked(true);
+  click(panel->text());
+  auto* line = shown<QLineEdit>();
+  ASSERT_TRUE(line);
+  QTest::keyClicks(line, "x");
+  QTest::keyClick(line, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(line->selectedText(), "alpha beta");
+  EXPECT_EQ(panel->text().SelLength(), 10);
+  EXPECT_EQ(panel->text().Text(), "alpha beta");
+  panel->text().SetLocked(false);
+  QTest::keyClicks(line, "x");
+  EXPECT_EQ(panel->text().Text(), "x");
+}
+
+TEST_F(TextBoxPeer, ADisabledBoxKeepsItsPlaceAndComesBack) {
+  panel->text().SetFocus();
+  panel->text().SetEnabled(false);
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+  EXPECT_FALSE(shown<QLineEdit>()->isEnabled());
+  EXPECT_NE(QApplication::focusWidget(), after);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -75,6 +76,22 @@ QColor textColor(const QPalette& palette, bool enabled) {
   return palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::Text);
 }
 
+// Drawn at the origin, which is where styles expect it.
+void drawScrollBar(QPainter& painter, QStyleOptionSlider option) {
+  option.orientation = Qt::Vertical;
+  option.subControls = QStyle::SC_All;
+  painter.save();
+  painter.translate(option.rect.topLeft());
+  option.rect.moveTo(0, 0);
+  painter.setClipRect(option.rect, Qt::IntersectClip);  // the slider's outline is a pixel too wide
+  style().drawComplexControl(QStyle::CC_ScrollBar, &option, &painter);
+  painter.restore();
+}
+
+bool isLatin(const QString& text) {
+  return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x100; });
+}
+
 }  // namespace
 
 void QtEditorPainter::paint(QtSurface& surface, const host::Control& control) {
@@ -100,7 +117,7 @@ void QtEditorPainter::paint(QtSurface& surface, const host::Control& control) {
 // Kept with what lies behind it, as an opaque picture is drawn many times faster than the style's frame.
 void QtEditorPainter::paintFrame(QPainter& painter, const QRect& place, const host::Editor& editor, char kind,
                                  int state, const DrawFrame& draw) {
-  const double scale = painter.device()->devicePixelRatioF();
+  const double scale = painter.deviceTransform().m11();
   const host::Color behind = platform_.resolve(editor.Parent()->backColor());
   const qint64 palette = platform_.palettes().of(editor).cacheKey();
   const FrameKey key{kind, state, place.width(), place.height(), scale, palette, behind};
@@ -129,16 +146,27 @@ void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const hos
   const QStyleOptionFrame option = lineEditOption(place, palette, box);
   const QRect inside = style().subElementRect(QStyle::SE_LineEditContents, &option);
   QtFontMetrics& metrics = platform_.metrics(*box.Font());
-  const int height = static_cast<int>(metrics.height());
-  const QRect line(inside.x() + kTextMargin, inside.y() + (inside.height() - height + 1) / 2,
-                   inside.width() - 2 * kTextMargin, height);
   const QString text = displayed(box);
-  const int width = qRound(metrics.advance(toUtf8(text))) + 1;
-  const int left = line.x() - scrolledBy(horizontalAlignment(box.Alignment()), width, line.width());
+  const Qt::Alignment alignment = horizontalAlignment(box.Alignment());
+  const int room = inside.width() - 2 * kTextMargin, left = inside.x() + kTextMargin;
+  const auto topOf = [&](int height) { return inside.y() + (inside.height() - height + 1) / 2; };
   painter.setClipRect(inside, Qt::IntersectClip);
   painter.setFont(metrics.font());
   painter.setPen(textColor(palette, box.Enabled()));
-  painter.drawText(QPointF(left, line.y() + metrics.ascent()), text);
+  const int height = static_cast<int>(metrics.height());
+  if (isLatin(text)) {
+    const int scrolled = scrolledBy(alignment, qRound(metrics.advance(toUtf8(text))) + 1, room);
+    painter.drawText(QPointF(left - scrolled, topOf(height) + metrics.ascent()), text);
+    return;
+  }
+  // Letters of other fonts may be taller; a line edit centres the whole line and rounds what they add.
+  QTextLayout layout(text, metrics.font());
+  layout.beginLayout();
+  const QTextLine line = layout.createLine();
+  layout.endLayout();
+  const int scrolled = scrolledBy(alignment, qRound(line.naturalTextWidth()) + 1, room);
+  const double added = qRound(line.ascent()) - metrics.ascent();
+  layout.draw(&painter, QPointF(left - scrolled, topOf(std::max(height, qRound(line.height()))) - added));
 }
 
 void QtEditorPainter::paintCheck(QPainter& painter, const QRect& place, const host::CheckBox& box) {
@@ -182,8 +210,8 @@ void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const hos
   frame.state |= QStyle::State_Sunken;
   const int edge = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &frame);
   const QRect inside = place.adjusted(edge, edge, -edge, -edge);
-  painter.fillRect(inside, frame.palette.brush(QPalette::Base));
   style().drawControl(QStyle::CE_ShapedFrame, &frame, &painter);
+  painter.fillRect(inside, frame.palette.brush(QPalette::Base));
 
   const QFont& font = platform_.metrics(*list.Font()).font();
   const int height = listItemHeight(font), all = height * list.ListCount();
@@ -193,11 +221,9 @@ void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const hos
     QStyleOptionSlider bar;
     setState(bar, QRect(inside.right() + 1 - width, inside.y(), width, inside.height()), palette,
              list.Enabled());
-    bar.orientation = Qt::Vertical;
     bar.maximum = all - inside.height();
     bar.pageStep = inside.height();
-    bar.subControls = QStyle::SC_All;
-    style().drawComplexControl(QStyle::CC_ScrollBar, &bar, &painter);
+    drawScrollBar(painter, bar);
     entries.setRight(inside.right() - width);
   }
   painter.setClipRect(entries, Qt::IntersectClip);
@@ -210,14 +236,12 @@ void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const hos
 void QtEditorPainter::paintScrollBar(QPainter& painter, const QRect& place, const host::VScrollBar& bar) {
   QStyleOptionSlider option;
   setState(option, place, QApplication::palette(), bar.Enabled());
-  option.orientation = Qt::Vertical;
   option.minimum = bar.Min();
   option.maximum = std::max(bar.Min(), bar.Max());
   option.sliderPosition = option.sliderValue = bar.Value();
   option.pageStep = bar.LargeChange();
   option.singleStep = bar.SmallChange();
-  option.subControls = QStyle::SC_All;
-  style().drawComplexControl(QStyle::CC_ScrollBar, &option, &painter);
+  drawScrollBar(painter, option);
 }
 
 }  // namespace qrn::qt

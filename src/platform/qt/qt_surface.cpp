@@ -28,7 +28,8 @@ QPainter::CompositionMode compositionOf(host::DrawMode mode) {
 QtSurface::QtSurface(QtPlatform& platform, QPainter& painter, const Rect& visible)
     : platform_(platform),
       painter_(painter),
-      scale_(painter.device()->devicePixelRatioF()),
+      // Asked of the painter: a widget may be painting into a picture of another scale.
+      scale_(painter.deviceTransform().m11()),
       areas_{{{0, 0}, visible}},
       clipped_{0, 0, -1, -1} {
   painter_.setRenderHint(QPainter::Antialiasing, false);

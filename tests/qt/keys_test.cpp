@@ -1,0 +1,160 @@
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTest>
+
+#include "platform/qt/qt_keys.h"
+#include "test_panel.h"
+
+namespace qrn::qt {
+namespace {
+
+using Keys = PanelTest;
+
+std::int16_t codeOf(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  return keyCode(QKeyEvent(QEvent::KeyPress, key, modifiers));
+}
+
+TEST(KeyCodes, AreThoseOfTheControls) {
+  EXPECT_EQ(codeOf(Qt::Key_A), 'A');
+  EXPECT_EQ(codeOf(Qt::Key_7), '7');
+  EXPECT_EQ(codeOf(Qt::Key_F4), host::key::F4);
+  EXPECT_EQ(codeOf(Qt::Key_Enter, Qt::KeypadModifier), host::key::Enter);
+  EXPECT_EQ(codeOf(Qt::Key_Backtab, Qt::ShiftModifier), host::key::Tab);
+  EXPECT_EQ(codeOf(Qt::Key_5, Qt::KeypadModifier), 101);
+  EXPECT_EQ(codeOf(Qt::Key_Period), 190);
+  EXPECT_EQ(codeOf(Qt::Key_Period, Qt::KeypadModifier), 110);
+  EXPECT_EQ(codeOf(Qt::Key_Exclam, Qt::ShiftModifier), '1');
+  EXPECT_EQ(codeOf(Qt::Key_VolumeUp), 0);
+}
+
+TEST(KeyCodes, CommandsTypeNothing) {
+  EXPECT_EQ(typedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier, "\x03")), 0);
+  EXPECT_EQ(
+      typedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_Q, Qt::ControlModifier | Qt::AltModifier, "@")),
+      '@');
+  EXPECT_EQ(typedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, Qt::NoModifier, "\x7f")), 0);
+  EXPECT_EQ(typedCharacter(QKeyEvent(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r")), 13);
+}
+
+TEST_F(Keys, GoToTheFocusedControlFirst) {
+  panel->text().SetFocus();
+  panel->heard.clear();
+  QTest::keyClicks(shown<QLineEdit>(), "x");
+  const std::vector<std::string> expected = {"text KeyDown 88 0", "text KeyPress 120",
+                                             "text Change \"xalpha beta\"", "text KeyUp 88"};
+  EXPECT_EQ(panel->heard, expected);
+}
+
+TEST_F(Keys, AKeyThatIsUsedUpTypesNothing) {
+  panel->text().SetFocus();
+  panel->swallowedKey = 'X';
+  QTest::keyClick(shown<QLineEdit>(), 'x');
+  EXPECT_EQ(panel->text().Text(), "alpha beta");
+  EXPECT_FALSE(heard("text KeyPress 120"));
+}
+
+TEST_F(Keys, ACharacterCanBeSwallowedOrReplaced) {
+  panel->text().SetFocus();
+  panel->typed = [](std::int16_t c) { return c == ',' ? std::int16_t{'.'} : std::int16_t{0}; };
+  QTest::keyClicks(shown<QLineEdit>(), "a,b");
+  EXPECT_EQ(panel->text().Text(), ".alpha beta");
+}
+
+TEST_F(Keys, TabWalksTheEditorsAndThenLeaves) {
+  panel->text().SetFocus();
+  const std::vector<std::string> names = {"second", "check", "combo", "list"};
+  for (const std::string& name : names) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_TRUE(panel->input().focus());
+    EXPECT_EQ(panel->input().focus()->Name(), name);
+    EXPECT_EQ(shownWidgets(), 2);
+  }
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), after);
+  EXPECT_FALSE(panel->input().focus());
+  EXPECT_TRUE(heard("list LostFocus"));
+}
+
+TEST_F(Keys, ShiftTabWalksBackAndLeavesAtTheBeginning) {
+  panel->second().SetFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget(), before);
+  EXPECT_FALSE(panel->input().focus());
+}
+
+TEST_F(Keys, TabFromOutsideGoesToTheFirstEditorAndShiftTabToTheLast) {
+  QTest::keyClick(before, Qt::Key_Tab);
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+  after->setFocus();
+  EXPECT_FALSE(panel->input().focus());
+  QTest::keyClick(after, Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(panel->input().focus(), &panel->list());
+}
+
+TEST_F(Keys, WhereThereIsNothingElseTabStartsOver) {
+  delete before;
+  delete after;
+  panel->list().SetFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+}
+
+TEST_F(Keys, AnotherWindowBorrowsTheFocusOnly) {
+  panel->text().SetFocus();
+  QFocusEvent left(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+  QCoreApplication::sendEvent(shown<QLineEdit>(), &left);
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+  EXPECT_TRUE(shown<QLineEdit>());
+}
+
+TEST_F(Keys, AWidgetThatTakesTheFocusDropsTheEditor) {
+  panel->text().SetFocus();
+  after->setFocus();
+  EXPECT_TRUE(heard("text LostFocus"));
+  EXPECT_FALSE(shown<QLineEdit>());
+  EXPECT_EQ(QApplication::focusWidget(), after);
+  canvas->setFocus();
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+  EXPECT_TRUE(shown<QLineEdit>()->hasFocus());
+}
+
+TEST_F(Keys, EnterAndArrowsAreNotTakenAwayByTheWindowAround) {
+  QShortcut enter(Qt::Key_Return, window.get());
+  QShortcut save(Qt::CTRL | Qt::Key_S, window.get());
+  int entered = 0, saved = 0;
+  QObject::connect(&enter, &QShortcut::activated, [&] { ++entered; });
+  QObject::connect(&save, &QShortcut::activated, [&] { ++saved; });
+  panel->text().SetFocus();
+  QTest::keyClick(window->windowHandle(), Qt::Key_Return);
+  EXPECT_EQ(entered, 0);
+  EXPECT_TRUE(heard("text KeyPress 13"));
+  EXPECT_EQ(std::count(panel->heard.begin(), panel->heard.end(), "text KeyDown 13 0"), 1);
+  QTest::keyClick(window->windowHandle(), Qt::Key_S, Qt::ControlModifier);
+  EXPECT_EQ(saved, 1);
+}
+
+TEST_F(Keys, SpaceTicksTheCurrentEntryAndArrowsMove) {
+  panel->list().SetFocus();
+  auto* list = shown<QListWidget>();
+  ASSERT_TRUE(list);
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Space);
+  EXPECT_EQ(panel->list().ListIndex(), 1);
+  EXPECT_TRUE(panel->list().Selected(1));
+  QTest::keyClick(list, Qt::Key_T);
+  EXPECT_EQ(panel->list().ListIndex(), 2);
+}
+
+TEST_F(Keys, WithoutAnEditorKeysGoToThePanel) {
+  canvas->setFocus();
+  panel->heard.clear();
+  QTest::keyClick(canvas, Qt::Key_F5);
+  EXPECT_TRUE(heard("panel KeyDown 116"));
+}
+
+}  // namespace
+}  // namespace qrn::qt

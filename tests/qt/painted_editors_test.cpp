@@ -1,0 +1,136 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "picture_of.h"
+
+namespace qrn::qt {
+namespace {
+
+QPalette darkPalette() {
+  QPalette palette(QColor(0x35, 0x35, 0x35));
+  palette.setColor(QPalette::Base, QColor(0x23, 0x23, 0x23));
+  palette.setColor(QPalette::Text, Qt::white);
+  palette.setColor(QPalette::WindowText, Qt::white);
+  palette.setColor(QPalette::ButtonText, Qt::white);
+  palette.setColor(QPalette::Disabled, QPalette::Text, QColor(0x80, 0x80, 0x80));
+  palette.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(0x80, 0x80, 0x80));
+  return palette;
+}
+
+struct Case {
+  const char* name;
+  void (*prepare)(TestPanel&);
+  host::Editor& (*editor)(TestPanel&);
+};
+
+host::Editor& text(TestPanel& panel) { return panel.text(); }
+host::Editor& check(TestPanel& panel) { return panel.check(); }
+host::Editor& combo(TestPanel& panel) { return panel.combo(); }
+host::Editor& list(TestPanel& panel) { return panel.list(); }
+
+void lock(TestPanel& panel) {
+  panel.text().SetLocked(true);
+  panel.text().SetBackColor(host::kButtonFace);
+  panel.combo().SetLocked(true);
+  panel.combo().SetBackColor(host::kButtonFace);
+}
+
+const Case kCases[] = {
+    {"Text", [](TestPanel&) {}, text},
+    {"TextLocked", lock, text},
+    {"TextDisabled", [](TestPanel& p) { p.text().SetEnabled(false); }, text},
+    {"TextPassword", [](TestPanel& p) { p.text().SetPasswordChar("*"); }, text},
+    {"TextRight", [](TestPanel& p) { p.text().SetAlignment(host::kAlignRight); }, text},
+    {"TextCentred", [](TestPanel& p) { p.text().SetAlignment(host::kAlignCentre); }, text},
+    {"TextColoured", [](TestPanel& p) { p.text().SetForeColor(host::rgb(0, 0, 255)); }, text},
+    {"TextEmpty", [](TestPanel& p) { p.text().SetText(""); }, text},
+    {"TextTooLong", [](TestPanel& p) { p.text().SetText("a very long text indeed that is cut off"); }, text},
+    {"TextTooLongRight",
+     [](TestPanel& p) {
+       p.text().SetText("a very long text indeed that is cut off");
+       p.text().SetAlignment(host::kAlignRight);
+     },
+     text},
+    {"TextForeign", [](TestPanel& p) { p.text().SetText("\u00b0C \u03a9 \u4e2d AV fi \U0001F600"); }, text},
+    {"TextBold",
+     [](TestPanel& p) { p.text().SetFont(std::make_shared<host::Font>("DejaVu Sans", 8.25, true)); }, text},
+    {"Check", [](TestPanel&) {}, check},
+    {"CheckTicked", [](TestPanel& p) { p.check().SetValue(1); }, check},
+    {"CheckDisabled", [](TestPanel& p) { p.check().SetEnabled(false); }, check},
+    {"CheckTickedDisabled",
+     [](TestPanel& p) {
+       p.check().SetValue(1);
+       p.check().SetEnabled(false);
+     },
+     check},
+    {"CheckOnAColour",
+     [](TestPanel& p) {
+       p.setBackColor(host::rgb(200, 255, 200));
+       p.check().SetBackColor(host::rgb(200, 255, 200));
+     },
+     check},
+    {"Combo", [](TestPanel&) {}, combo},
+    {"ComboLocked", lock, combo},
+    {"ComboDisabled", [](TestPanel& p) { p.combo().SetEnabled(false); }, combo},
+    {"ComboNoneChosen", [](TestPanel& p) { p.combo().SetListIndex(-1); }, combo},
+    {"ComboColoured", [](TestPanel& p) { p.combo().SetForeColor(host::rgb(255, 0, 0)); }, combo},
+    {"ComboTooLong", [](TestPanel& p) { p.combo().SetList(0, "a very long entry indeed that is cut off"); },
+     combo},
+    {"List", [](TestPanel&) {}, list},
+    {"ListTicked",
+     [](TestPanel& p) {
+       p.list().SetSelected(0, true);
+       p.list().SetSelected(2, true);
+     },
+     list},
+    {"ListDisabled", [](TestPanel& p) { p.list().SetEnabled(false); }, list},
+    {"ListLocked", [](TestPanel& p) { p.list().SetBackColor(host::kButtonFace); }, list},
+    {"ListTooLong",
+     [](TestPanel& p) {
+       for (const char* entry : {"four", "five", "six"}) p.list().AddItem(entry);
+     },
+     list},
+};
+
+class PaintedEditor : public PanelTest, public testing::WithParamInterface<std::tuple<Case, bool>> {
+ protected:
+  PaintedEditor() {
+    if (std::get<bool>(GetParam())) QApplication::setPalette(darkPalette());
+  }
+  ~PaintedEditor() override { QApplication::setPalette(usual_); }
+
+  const QPalette usual_ = QApplication::palette();
+};
+
+TEST_P(PaintedEditor, LooksLikeTheRealOneWithoutTheFocus) {
+  const Case& one = std::get<Case>(GetParam());
+  one.prepare(*panel);
+  host::Editor& editor = one.editor(*panel);
+  const QImage asPainted = partOf(painted(platform, *panel), editor);
+  // Realised without ever having had the focus: nothing is selected and no caret blinks.
+  editor.realise();
+  ASSERT_TRUE(editor.peer());
+  const QImage asReal = partOf(grabbed(*canvas), editor);
+  EXPECT_EQ(difference(asPainted, asReal), "");
+}
+
+using PaintedScrollBar = PanelTest;
+
+TEST_F(PaintedScrollBar, LooksLikeTheRealOne) {
+  panel->bar().SetLargeChange(40);
+  panel->bar().SetValue(30);
+  const QImage asReal = partOf(grabbed(*canvas), panel->bar());
+  panel->bar().dropPeer();
+  EXPECT_EQ(difference(partOf(painted(platform, *panel), panel->bar()), asReal), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PaintedEditor, testing::Combine(testing::ValuesIn(kCases), testing::Bool()),
+                         [](const auto& test) {
+                           return std::string(std::get<Case>(test.param).name) +
+                                  (std::get<bool>(test.param) ? "Dark" : "");
+                         });
+
+}  // namespace
+}  // namespace qrn::qt

@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QPainter>
+
+#include "platform/qt/qt_platform.h"
+#include "platform/qt/qt_surface.h"
+
+namespace qrn::qt {
+namespace {
+
+constexpr host::Color kRed = host::rgb(255, 0, 0);
+constexpr QRgb kRedPixel = 0xFFFF0000, kWhitePixel = 0xFFFFFFFF;
+
+/// A white picture of 20 by 20 logical pixels at a scale factor.
+class Surface : public testing::Test {
+ protected:
+  QImage drawn(double scale, const std::function<void(QtSurface&)>& draw) {
+    QImage image(QSize(20, 20) * scale, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QtSurface surface(platform, painter, {0, 0, 20, 20});
+    draw(surface);
+    return image;
+  }
+  static int count(const QImage& image, QRgb color) {
+    int found = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) found += image.pixel(x, y) == color ? 1 : 0;
+    return found;
+  }
+
+  QtPlatform platform;
+};
+
+TEST_F(Surface, FillsExactlyItsPixelsAtEveryScale) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const QImage image = drawn(scale, [](QtSurface& s) { s.fill({2, 4, 6, 8}, kRed); });
+    EXPECT_EQ(count(image, kRedPixel), static_cast<int>(6 * scale * 8 * scale)) << scale;
+    EXPECT_EQ(image.pixel(static_cast<int>(2 * scale), static_cast<int>(4 * scale)), kRedPixel) << scale;
+  }
+}
+
+TEST_F(Surface, NeighboursNeitherOverlapNorGapeAtAScaleThatIsNoWholeNumber) {
+  const QImage image = drawn(1.5, [](QtSurface& s) {
+    for (int i = 0; i < 20; ++i) s.fill({static_cast<double>(i), 0, 1, 20}, kRed);
+  });
+  EXPECT_EQ(count(image, kRedPixel), 30 * 30);
+}
+
+TEST_F(Surface, ALineHasBothItsEndsAndIsCrispAtEveryScale) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const QImage image = drawn(scale, [](QtSurface& s) {
+      s.line({2, 3}, {9, 3}, kRed);
+      s.line({5, 15}, {5, 8}, kRed);
+    });
+    const int thick = scale == 2 ? 2 : 1;
+    const int lengths = static_cast<int>(8 * scale) + static_cast<int>(8 * scale);
+    EXPECT_EQ(count(image, kRedPixel), lengths * thick) << scale;
+    EXPECT_EQ(count(image, kRedPixel) + count(image, kWhitePixel), image.width() * image.height()) << scale;
+  }
+}
+
+TEST_F(Surface, ARegionHasItsOwnOriginAndClips) {
+  const QImage image = drawn(1, [](QtSurface& s) {
+    s.enter({5, 5, 10, 10});
+    s.enter({8, 8, 10, 10});
+    EXPECT_EQ(s.visible(), (Rect{0, 0, 2, 2}));
+    s.fill({0, 0, 20, 20}, kRed);
+    s.line({0, 0}, {19, 0}, host::rgb(0, 0, 255));
+    s.leave();
+    s.leave();
+    s.fill({0, 0, 1, 1}, kRed);
+  });
+  EXPECT_EQ(count(image, kRedPixel), 3);
+  EXPECT_EQ(count(image, 0xFF0000FF), 2);
+  EXPECT_EQ(image.pixel(13, 13), 0xFF0000FF);
+}
+
+TEST_F(Surface, MergingAndMaskingWorkBitByBit) {
+  const QImage image = drawn(1, [](QtSurface& s) {
+    s.fill({0, 0, 20, 20}, host::rgb(0x12, 0x34, 0x56));
+    s.fill({0, 0, 5, 5}, host::rgb(0xF0, 0, 0x0F), host::DrawMode::MergePen);
+    s.fill({10, 10, 5, 5}, host::rgb(0xF0, 0, 0x0F), host::DrawMode::MaskPen);
+  });
+  EXPECT_EQ(image.pixel(0, 0), 0xFFF2345Fu);
+  EXPECT_EQ(image.pixel(12, 12), 0xFF100006u);
+  EXPECT_EQ(image.pixel(7, 7), 0xFF123456u);
+}
+
+TEST_F(Surface, APictureComesFromTheBitmapOfItsScale) {
+  const host::Picture::Bitmap one{2, 2, std::vector<std::uint32_t>(4, 0xFFFF0000)};
+  const host::Picture::Bitmap two{4, 4, std::vector<std::uint32_t>(16, 0xFF0000FF)};
+  const host::Picture picture({one, two});
+  const auto draw = [&](QtSurface& s) { s.picture({3, 3}, picture); };
+  EXPECT_EQ(count(drawn(1, draw), kRedPixel), 4);
+  EXPECT_EQ(count(drawn(2, draw), 0xFF0000FF), 16);
+  EXPECT_EQ(count(drawn(1.5, draw), 0xFF0000FF), 9);
+}
+
+TEST_F(Surface, APictureAtTheAddressOfAnEarlierOneIsDrawnAsItIs) {
+  std::optional<host::Picture> picture;
+  const auto draw = [&](QtSurface& s) { s.picture({0, 0}, *picture); };
+  picture.emplace(std::vector<host::Picture::Bitmap>{{1, 1, {0xFFFF0000}}});
+  EXPECT_EQ(drawn(1, draw).pixel(0, 0), kRedPixel);
+  picture.emplace(std::vector<host::Picture::Bitmap>{{1, 1, {0xFF0000FF}}});
+  EXPECT_EQ(drawn(1, draw).pixel(0, 0), 0xFF0000FFu);
+}
+
+TEST_F(Surface, TextStandsOnTheBaselineOfItsFont) {
+  const host::Font font("DejaVu Sans", 9);
+  const QImage image = drawn(1, [&](QtSurface& s) { s.text({1, 2}, "H", font, host::rgb(0, 0, 0)); });
+  int lowest = 0;
+  for (int y = 0; y < 20; ++y)
+    for (int x = 0; x < 20; ++x)
+      if (image.pixel(x, y) != kWhitePixel) lowest = y;
+  EXPECT_EQ(lowest, 2 + platform.metrics(font).ascent() - 1);
+}
+
+TEST_F(Surface, TheFocusRectangleCanBeSeen) {
+  const QImage image = drawn(1, [](QtSurface& s) { s.focusRectangle({2, 2, 16, 16}); });
+  EXPECT_LT(count(image, kWhitePixel), 20 * 20);
+  EXPECT_EQ(image.pixel(0, 0), kWhitePixel);
+}
+
+}  // namespace
+}  // namespace qrn::qt
