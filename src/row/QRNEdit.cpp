@@ -29,7 +29,10 @@ void QRNEdit::initialize() {
   Move(0, 0, kDesignWidth, GetMinHeight());
 }
 
-void QRNEdit::show() { switchRedraw(true); }
+void QRNEdit::show() {
+  redraw_ = true;
+  layOut();
+}
 
 void QRNEdit::terminate() {
   stopTracking();
@@ -55,9 +58,22 @@ void QRNEdit::switchRedraw(bool redraw) {
 // ---- setters ----
 
 void QRNEdit::SetScaleMode(std::int16_t mode) {
+  const Point before = pixelsPerUnit();
   setScaleMode(mode);
-  if (auto* composite = dynamic_cast<CompositeEditor*>(editorFrame())) composite->SetScaleMode(mode);
+  rescaleParts(before);
+  if (auto* composite = compositeEditor()) composite->SetScaleMode(mode);
+  applyFont();
   layOut();
+}
+
+// What is on the screen stays where it is; only its numbers change.
+void QRNEdit::rescaleParts(Point pixelsBefore) {
+  const Point now = pixelsPerUnit();
+  const double x = pixelsBefore.x / now.x, y = pixelsBefore.y / now.y;
+  for (host::Control* part : contained()) {
+    const Rect place = part->bounds();
+    part->Move(place.left * x, place.top * y, place.width * x, place.height * y);
+  }
 }
 
 void QRNEdit::SetBackColor(host::Color color) {
@@ -84,9 +100,7 @@ void QRNEdit::SetEnabled(bool enabled) {
 
 void QRNEdit::SetFont(host::FontPtr font) {
   setFont(std::move(font));
-  lblLabel_.fontChanged();
-  lblUnit_.fontChanged();
-  if (host::Editor* editor = CurrentEditor()) editor->SetFont(this->font());
+  applyFont();
   propertyChanged("Font");
   layOut();
 }
@@ -162,14 +176,16 @@ void QRNEdit::SetValueToolTip(const std::string& text) {
   propertyChanged("ValueToolTip");
 }
 
-void QRNEdit::SetValueAlignment(std::int32_t alignment) {
-  if (!store(valueAlignment_, alignment, "ValueAlignment")) return;
-  if (host::Editor* editor = CurrentEditor()) editor->SetAlignment(alignment);
+void QRNEdit::setIconMode(Icon& icon, qrnButtonMode mode, std::string_view key) {
+  if (mode == qrnbuttonNone && isTracked(icon)) stopTracking();
+  storeAndLayOut(icon.mode, mode, key);
 }
 
-void QRNEdit::SetLocked(bool locked) {
-  if (store(locked_, locked, "Locked")) applyLocked();
+void QRNEdit::SetValueAlignment(std::int32_t alignment) {
+  storeAndApply(valueAlignment_, alignment, "ValueAlignment", &QRNEdit::applyAlignment);
 }
+
+void QRNEdit::SetLocked(bool locked) { storeAndApply(locked_, locked, "Locked", &QRNEdit::applyLocked); }
 
 host::Color QRNEdit::ValueForeColor() const {
   const host::Editor* editor = CurrentEditor();
@@ -184,19 +200,17 @@ void QRNEdit::SetValueForeColor(host::Color color) {
 }
 
 void QRNEdit::SetValueUpperCase(bool upperCase) {
-  if (store(valueUpperCase_, upperCase, "ValueUpperCase")) applyUpperCase();
+  storeAndApply(valueUpperCase_, upperCase, "ValueUpperCase", &QRNEdit::applyUpperCase);
 }
 
 void QRNEdit::SetValueMaxLength(std::int32_t length) {
   constexpr std::int32_t kLongest = 65535;
   if (length < 0 || length > kLongest) length = kLongest;
-  if (!store(valueMaxLength_, length, "ValueMaxLength")) return;
-  if (txtValue_) txtValue_->SetMaxLength(length);
+  storeAndApply(valueMaxLength_, length, "ValueMaxLength", &QRNEdit::applyMaxLength);
 }
 
 void QRNEdit::SetPassword(bool password) {
-  if (!store(password_, password, "Password")) return;
-  if (txtValue_) txtValue_->SetPasswordChar(password ? "*" : "");
+  storeAndApply(password_, password, "Password", &QRNEdit::applyPassword);
 }
 
 void QRNEdit::SetValueRule(const std::string& rule) {

@@ -81,7 +81,7 @@ class QRNEdit final : public host::UserControl {
   bool Icon1Hidden() const { return icon1_.hidden; }
   void SetIcon1Hidden(bool hidden) { setIconHidden(icon1_, hidden, "Icon1Hidden"); }
   qrnButtonMode Icon1ButtonMode() const { return icon1_.mode; }
-  void SetIcon1ButtonMode(qrnButtonMode mode) { storeAndLayOut(icon1_.mode, mode, "Icon1ButtonMode"); }
+  void SetIcon1ButtonMode(qrnButtonMode mode) { setIconMode(icon1_, mode, "Icon1ButtonMode"); }
   std::int32_t Icon2Column() const { return icon2_.column; }
   void SetIcon2Column(std::int32_t column) { storeAndLayOut(icon2_.column, column, "Icon2Column"); }
   const std::string& Icon2ToolTip() const { return icon2_.image.ToolTipText(); }
@@ -95,7 +95,7 @@ class QRNEdit final : public host::UserControl {
   bool Icon2Hidden() const { return icon2_.hidden; }
   void SetIcon2Hidden(bool hidden) { setIconHidden(icon2_, hidden, "Icon2Hidden"); }
   qrnButtonMode Icon2ButtonMode() const { return icon2_.mode; }
-  void SetIcon2ButtonMode(qrnButtonMode mode) { storeAndLayOut(icon2_.mode, mode, "Icon2ButtonMode"); }
+  void SetIcon2ButtonMode(qrnButtonMode mode) { setIconMode(icon2_, mode, "Icon2ButtonMode"); }
 
   // ---- the value ----
   qrnValueType ValueType() const { return valueType_; }
@@ -104,13 +104,13 @@ class QRNEdit final : public host::UserControl {
   std::int32_t ValueWidth() const;
   void SetValueWidth(std::int32_t width);
   /// The value as the editor shows it; a hexadecimal row answers the decimal digits.
-  std::string ValueText();
+  std::string ValueText() const;
   void SetValueText(const std::string& text) { SetValue(Variant(text)); }
   /// The typed value; Null where ValueError answers why.
-  Variant Value();
+  Variant Value() const;
   void SetValue(const Variant& value);
-  qrnErrorCode ValueError();
-  bool ValueChanged();
+  qrnErrorCode ValueError() const;
+  bool ValueChanged() const;
   /// False takes the editor's content as the new accepted value.
   void SetValueChanged(bool changed);
   const std::string& ValueToolTip() const;
@@ -254,53 +254,75 @@ class QRNEdit final : public host::UserControl {
 
   // ---- setters (QRNEdit.cpp) ----
   template <class T>
-  bool store(T& field, const T& value, std::string_view key) {
-    if (field == value) return false;
+  void storeAndLayOut(T& field, const T& value, std::string_view key) {
+    if (field == value) return;
     field = value;
     propertyChanged(key);
-    return true;
+    layOut();
   }
   template <class T>
-  void storeAndLayOut(T& field, const T& value, std::string_view key) {
-    if (store(field, value, key)) layOut();
+  void storeAndApply(T& field, const T& value, std::string_view key, void (QRNEdit::*apply)()) {
+    if (field == value) return;
+    field = value;
+    (this->*apply)();
+    propertyChanged(key);
   }
+  void rescaleParts(Point pixelsBefore);
   static std::int32_t widthOf(const host::Control& part);
   void setPartWidth(host::Control& part, std::int32_t width, std::string_view key);
   void setPartToolTip(host::Control& part, const std::string& text, std::string_view key);
   void setPartCaption(host::Label& part, const std::string& text, std::string_view key);
   void setIconPicture(Icon& icon, host::PicturePtr picture, std::string_view key);
   void setIconHidden(Icon& icon, bool hidden, std::string_view key);
+  void setIconMode(Icon& icon, qrnButtonMode mode, std::string_view key);
 
   // ---- the editor (QRNEdit_editor.cpp) ----
   static EditorKind editorKind(qrnValueType type);
+  bool takeFocusFromEditor(qrnValueType nextType);
   void switchEditor(qrnValueType type);
   void createEditor(EditorKind kind);
   void removeEditor();
+  template <class T>
+  T* addEditor(std::string_view progId, std::string_view name);
   void applySettings();
+  void applyAlignment();
   void applyLocked();
-  void applyEnabled();
   void applyUpperCase();
+  void applyMaxLength();
+  void applyPassword();
+  void applyEnabled();
+  void applyFont();
   host::ListEditor* listEditor() const;
+  /// The type has an editor, but it has not been made: no type was assigned yet, or its class is not known.
+  bool lacksEditor() const { return editorKind(valueType_) != editorKind_; }
   /// The control of the row in which the editor lies: the text box itself, or the user control around the
   /// others.
   host::Control* editorFrame() const;
+  CompositeEditor* compositeEditor() const;
 
   // ---- the value (QRNEdit_value.cpp) ----
   void showValue(const Variant& value);
-  void showText(const Variant& value);
+  void showInEditor(const Variant& value);
+  void showText(std::string shown);
+  void showCheck(bool ticked);
   void showList(const Variant& value);
   void showBits(const Variant& value);
-  ReadResult readValue();
-  ReadResult readTyped();
-  ReadResult checkedNumber(const Variant& value) const;
+  void showHexadecimal(const Variant& value);
   std::string formatted(const Variant& value) const;
+  std::string numberText(const Variant& value) const;
+  std::string readText() const;
+  ReadResult readValue() const;
+  ReadResult readTyped() const;
+  ReadResult checkedNumber(const Variant& value) const;
   std::string bitsOfEditor() const;
   std::optional<Variant> editorContent() const;
+  bool differs(const Variant& content) const;
   void correctDecimalSeparator();
 
   // ---- layout (QRNEdit_layout.cpp) ----
   void switchRedraw(bool redraw);
   void layOut();
+  bool showEditor();
   double placeParts(double x, bool move);
   double placeIcons(std::int32_t column, double x, bool move);
   void applyIconVisibility();
@@ -314,6 +336,7 @@ class QRNEdit final : public host::UserControl {
   bool endEdit();
   Icon* iconOf(const host::Control& child);
   void clickOn(host::Control& child);
+  bool isTracked(const Icon& icon) const;
   void trackIcon(Icon& icon);
   void stopTracking();
   void paintIconFrame(host::Surface& surface, const Icon& icon);

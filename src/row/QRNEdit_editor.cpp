@@ -51,10 +51,29 @@ host::ListEditor* QRNEdit::listEditor() const {
   return lstValue_ ? &lstValue_->List() : nullptr;
 }
 
+CompositeEditor* QRNEdit::compositeEditor() const {
+  return dynamic_cast<CompositeEditor*>(txtValue_ ? nullptr : editorFrame());
+}
+
 void QRNEdit::SetValueType(qrnValueType type) {
+  const WeakRef<QRNEdit> self(this);
+  const bool focused = takeFocusFromEditor(type);
+  if (!self) return;
   switchEditor(type);
   propertyChanged("ValueType");
   layOut();
+  if (self && focused) input().setFocus(focusTarget());
+}
+
+// The focus waits on the row while one editor takes the place of another, and the edit goes on. A row that
+// will have no editor gives it up while the edit can still be ended.
+bool QRNEdit::takeFocusFromEditor(qrnValueType nextType) {
+  const host::Editor* editor = CurrentEditor();
+  const EditorKind next = editorKind(nextType);
+  if (!editor || next == editorKind_ || !editor->hasFocus()) return false;
+  const bool goesOn = next != EditorKind::None && next != EditorKind::Array;
+  input().setFocus(goesOn ? this : nullptr);
+  return goesOn;
 }
 
 void QRNEdit::switchEditor(qrnValueType type) {
@@ -74,7 +93,7 @@ void QRNEdit::switchEditor(qrnValueType type) {
   }
   removeEditor();
   valueType_ = type;
-  createEditor(kind);
+  ignoringErrors([&] { createEditor(kind); });
   host::Editor* editor = CurrentEditor();
   if (!editor) return;
   applySettings();
@@ -86,33 +105,31 @@ void QRNEdit::switchEditor(qrnValueType type) {
 }
 
 void QRNEdit::removeEditor() {
-  host::Control* frame = editorFrame();
-  const bool textBox = txtValue_ != nullptr;
+  const host::Control* frame = editorFrame();
   editorKind_ = EditorKind::None;
   txtValue_ = nullptr;
   chkValue_ = nullptr;
   cboValue_ = nullptr;
   lstValue_ = nullptr;
-  if (frame) controls().remove(textBox ? "txtValue" : std::string(frame->Name()));
+  if (frame) controls().remove(std::string(frame->Name()));
+}
+
+template <class T>
+T* QRNEdit::addEditor(std::string_view progId, std::string_view name) {
+  host::Control& added = controls().add(progId, name, *this);
+  added.SetWidth(kEditorWidth / pixelsPerUnit().x);
+  return static_cast<T*>(&added);
 }
 
 void QRNEdit::createEditor(EditorKind kind) {
-  const auto add = [this](std::string_view progId, std::string_view name) -> host::Control& {
-    host::Control& added = controls().add(progId, name, *this);
-    if (auto* composite = dynamic_cast<CompositeEditor*>(&added)) composite->SetScaleMode(ScaleMode());
-    added.SetWidth(kEditorWidth);
-    return added;
-  };
   switch (kind) {
-    case EditorKind::TextBox: txtValue_ = static_cast<host::TextBox*>(&add("VB.TextBox", "txtValue")); break;
-    case EditorKind::Check:
-      chkValue_ = static_cast<QRNCheck*>(&add("QRNV16Controls2.QRNCheck", "chkValue"));
-      break;
+    case EditorKind::TextBox: txtValue_ = addEditor<host::TextBox>("VB.TextBox", "txtValue"); break;
+    case EditorKind::Check: chkValue_ = addEditor<QRNCheck>("QRNV16Controls2.QRNCheck", "chkValue"); break;
     case EditorKind::DropList:
-      cboValue_ = static_cast<QRNDropList*>(&add("QRNV16Controls2.QRNDropList", "cboValue"));
+      cboValue_ = addEditor<QRNDropList>("QRNV16Controls2.QRNDropList", "cboValue");
       break;
     case EditorKind::BitList:
-      lstValue_ = static_cast<QRNBitList*>(&add("QRNV16Controls2.QRNBitList", "lstValue"));
+      lstValue_ = addEditor<QRNBitList>("QRNV16Controls2.QRNBitList", "lstValue");
       break;
     default: break;
   }
@@ -120,17 +137,20 @@ void QRNEdit::createEditor(EditorKind kind) {
 }
 
 void QRNEdit::applySettings() {
-  host::Editor& editor = *CurrentEditor();
-  editor.SetAlignment(valueAlignment_);
+  if (auto* composite = compositeEditor()) composite->SetScaleMode(ScaleMode());
+  applyAlignment();
   applyLocked();
   applyUpperCase();
-  if (txtValue_) {
-    txtValue_->SetMaxLength(valueMaxLength_);
-    txtValue_->SetPasswordChar(password_ ? "*" : "");
-  }
+  applyMaxLength();
+  applyPassword();
   applyEnabled();
+  applyFont();
   if (chkValue_) chkValue_->Check().SetBackColor(BackColor());
   editorFrame()->SetVisible(valueVisible_);
+}
+
+void QRNEdit::applyAlignment() {
+  if (host::Editor* editor = CurrentEditor()) editor->SetAlignment(valueAlignment_);
 }
 
 void QRNEdit::applyLocked() {
@@ -154,6 +174,24 @@ void QRNEdit::applyEnabled() {
 
 void QRNEdit::applyUpperCase() {
   if (txtValue_) txtValue_->setUpperCase(valueUpperCase_);
+}
+
+void QRNEdit::applyMaxLength() {
+  if (txtValue_) txtValue_->SetMaxLength(valueMaxLength_);
+}
+
+void QRNEdit::applyPassword() {
+  if (txtValue_) txtValue_->SetPasswordChar(password_ ? "*" : "");
+}
+
+// Drops the measured widths as well, so it also serves a change of scale.
+void QRNEdit::applyFont() {
+  lblLabel_.fontChanged();
+  lblUnit_.fontChanged();
+  if (txtValue_)
+    txtValue_->SetFont(font());
+  else if (auto* composite = compositeEditor())
+    composite->SetFont(font());
 }
 
 // ---- the entries of the lists ----

@@ -2,6 +2,7 @@
 
 #include "row/QRNEdit.h"
 #include "row/icon_tracking.h"
+#include "runtime/errors.h"
 #include "values/bit_string.h"
 
 namespace qrn {
@@ -13,6 +14,18 @@ bool isInside(const host::Control& part, Point at) {
   const Size size = part.pixelSize();
   return at.x >= 0 && at.x < size.width && at.y >= 0 && at.y < size.height;
 }
+
+/// Counts a change of the editor while it is being handled, also when that fails.
+class HandlingChange {
+ public:
+  explicit HandlingChange(std::int8_t& depth) : depth_(depth) { ++depth_; }
+  HandlingChange(const HandlingChange&) = delete;
+  HandlingChange& operator=(const HandlingChange&) = delete;
+  ~HandlingChange() { --depth_; }
+
+ private:
+  std::int8_t& depth_;
+};
 
 }  // namespace
 
@@ -55,9 +68,8 @@ host::Control* QRNEdit::focusTarget() {
 void QRNEdit::childChanged(host::Control& child) {
   if (changeDepth_ > 0) return;
   if (&child == txtValue_ && valueType_ == qrnTypeDouble) {
-    ++changeDepth_;
+    const HandlingChange handling(changeDepth_);
     correctDecimalSeparator();
-    --changeDepth_;
   }
   raise(Change, "Change");
 }
@@ -70,10 +82,10 @@ void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
     raise(ItemCheck, "ItemCheck", item);
     return;
   }
-  ++changeDepth_;
-  const auto* baseline = displayBaseline_.get<std::string>();
-  lstValue_->List().SetSelected(item, BitStringGet(baseline ? std::string_view(*baseline) : "", item));
-  --changeDepth_;
+  const HandlingChange handling(changeDepth_);
+  const auto* bits = displayBaseline_.get<std::string>();
+  const bool accepted = bits && BitStringGet(*bits, item);
+  ignoringErrors([&] { lstValue_->List().SetSelected(item, accepted); });
 }
 
 void QRNEdit::childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
@@ -99,19 +111,19 @@ QRNEdit::Icon* QRNEdit::iconOf(const host::Control& child) {
 }
 
 void QRNEdit::mouseDown(host::MouseButton button, std::int16_t, Point) {
-  if (button == host::MouseButton::Left) leftPressed_ = true;
+  if (button == host::MouseButton::Left && Enabled()) leftPressed_ = true;
 }
 
 void QRNEdit::mouseUp(host::MouseButton button, std::int16_t, Point at) {
   const bool inside = isInside(*this, at);
-  if (button == host::MouseButton::Right && inside) showContextMenu(false);
+  if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;
   if (inside) raise(BackgroundClick, "BackgroundClick");
 }
 
 void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point) {
-  if (button != host::MouseButton::Left) return;
+  if (button != host::MouseButton::Left || !Enabled()) return;
   leftPressed_ = true;
   // The caption of a Boolean parameter works its check box.
   if (&child == &lblLabel_ && chkValue_ && !locked_) {
@@ -123,14 +135,15 @@ void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std
   if (const Icon* icon = iconOf(child); icon && icon->mode != qrnbuttonNone) invalidate();
 }
 
-void QRNEdit::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point) {
+void QRNEdit::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point at) {
   Icon* icon = iconOf(child);
-  if (icon && icon->mode != qrnbuttonNone) trackIcon(*icon);
+  // A pressed icon hears of the mouse wherever it goes.
+  if (icon && icon->mode != qrnbuttonNone && Enabled() && isInside(child, at)) trackIcon(*icon);
 }
 
 void QRNEdit::childMouseUp(host::Control& child, host::MouseButton button, std::int16_t, Point at) {
   const bool inside = isInside(child, at);
-  if (button == host::MouseButton::Right && inside) showContextMenu(false);
+  if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;
   const Icon* icon = iconOf(child);
@@ -147,17 +160,20 @@ void QRNEdit::clickOn(host::Control& child) {
     raise(Icon1Click, "Icon1Click");
   else if (&child == &icon2_.image && icon2_.mode != qrnbuttonNone)
     raise(Icon2Click, "Icon2Click");
+  else if (lstValue_ && &child == &lstValue_->List())
+    raise(Click, "Click");
 }
 
 void QRNEdit::showContextMenu(bool atKeyboard) {
-  if (!menu_) return;
+  if (!menu_ || !Enabled()) return;
   Point at = platform().cursor();
   if (atKeyboard) {
     const auto third = [](double length, int factor) {
       return static_cast<double>(factor * static_cast<std::int32_t>(std::nearbyint(length)) / 3);
     };
+    const Point unit = pixelsPerUnit();
     at = platform().screenPosition(root()) + onSurface().topLeft() +
-         Point{third(ScaleWidth(), 1), third(ScaleHeight(), 2)};
+         Point{third(ScaleWidth(), 1) * unit.x, third(ScaleHeight(), 2) * unit.y};
   }
   const WeakRef<QRNEdit> self(this);
   const auto chosen = menu_->show(platform(), at);
@@ -168,8 +184,10 @@ void QRNEdit::showContextMenu(bool atKeyboard) {
 
 // ---- icons ----
 
+bool QRNEdit::isTracked(const Icon& icon) const { return tracking_ && tracking_->image == &icon.image; }
+
 void QRNEdit::trackIcon(Icon& icon) {
-  if (tracking_ && tracking_->image == &icon.image) return;
+  if (isTracked(icon)) return;
   stopTracking();
   tracking_ = std::make_unique<IconTracking>();
   tracking_->image = &icon.image;
@@ -198,7 +216,7 @@ void QRNEdit::paint(host::Surface& surface, Size size) {
 
 // An embossed icon always has its frame; a flat one only while it is tracked.
 void QRNEdit::paintIconFrame(host::Surface& surface, const Icon& icon) {
-  const bool tracked = tracking_ && tracking_->image == &icon.image;
+  const bool tracked = isTracked(icon);
   const bool embossed = icon.mode == qrnButtonEmbossed && icon.column >= 1 && icon.visible;
   if (!tracked && !embossed) return;
   const Rect image = pixelBounds(icon.image);

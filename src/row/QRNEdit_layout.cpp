@@ -8,7 +8,11 @@ namespace {
 
 std::int32_t toLong(double value) { return static_cast<std::int32_t>(std::nearbyint(value)); }
 
-std::int32_t roundedUp(double value) { return static_cast<std::int32_t>(std::ceil(value)); }
+// A width that only misses a whole number by what the conversion of scales leaves is that number.
+std::int32_t roundedUp(double value) {
+  constexpr double kNoise = 1e-6;
+  return static_cast<std::int32_t>(std::ceil(value - kNoise));
+}
 
 void moveTo(host::Control& part, double left, double top) {
   part.Move(std::nearbyint(left), std::nearbyint(top), part.Width(), part.Height());
@@ -18,7 +22,7 @@ void moveTo(host::Control& part, double left, double top) {
 
 std::int32_t QRNEdit::textHeight() const { return toLong(TextHeight("|")); }
 
-std::int32_t QRNEdit::rowHeight() const { return toLong(7 / pixelsPerUnit().y + TextHeight("|")); }
+std::int32_t QRNEdit::rowHeight() const { return toLong(7 / pixelsPerUnit().y + textHeight()); }
 
 std::int32_t QRNEdit::GetMinHeight() const {
   std::int32_t height = textHeight() + 8;
@@ -71,14 +75,23 @@ void QRNEdit::applyIconVisibility() {
   icon2_.image.SetVisible(iconShown(icon2_));
 }
 
-void QRNEdit::layOut() {
-  if (!redraw_) return;
-  lblLabel_.SetVisible(labelVisible_);
-  applyIconVisibility();
+// Hiding the focused editor ends the edit, and who hears of that may do anything: answers whether the row is
+// still there.
+bool QRNEdit::showEditor() {
+  const WeakRef<QRNEdit> self(this);
+  if (!valueVisible_ && editorFrame() && editorFrame()->hasFocus()) input().setFocus(nullptr);
+  if (!self) return false;
   if (host::Control* frame = editorFrame()) {
     frame->SetVisible(valueVisible_);
     CurrentEditor()->SetVisible(valueVisible_);
   }
+  return true;
+}
+
+void QRNEdit::layOut() {
+  if (!redraw_ || !showEditor()) return;
+  lblLabel_.SetVisible(labelVisible_);
+  applyIconVisibility();
   lblUnit_.SetVisible(unitVisible_);
   double x = 0;
   if (alignment_ != host::kAlignLeft) {

@@ -1,5 +1,6 @@
 #include "host/class_table.h"
 #include "row/QRNEdit.h"
+#include "runtime/errors.h"
 
 namespace qrn {
 
@@ -104,10 +105,11 @@ std::vector<host::Property> QRNEditTable::iconProperties() {
 std::vector<host::Property> QRNEditTable::valueProperties() {
   auto valueText =
       setter<&C::ValueText, &C::SetValueText>("ValueText", 27, text("")).notifies(Notify::Always);
-  // Nothing was saved, so nothing is converted: an empty text is no number.
+  // Nothing was saved, so nothing is converted: an empty text is no number. Nor is a text refused that needs
+  // the entries of a list, which are not saved.
   valueText.restore = [](host::UserControl& control, const Variant& value) {
-    if (const std::string shown = host::stringFrom(value); !shown.empty())
-      static_cast<C&>(control).SetValueText(shown);
+    const std::string shown = host::stringFrom(value);
+    if (!shown.empty()) ignoringErrors([&] { static_cast<C&>(control).SetValueText(shown); });
   };
   auto rule = setter<&C::ValueRule, &C::SetValueRule>("ValueRule", 36, text(""));
   rule.restore = [](host::UserControl& control, const Variant& value) {

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <limits>
 
 #include "base/text.h"
 #include "row/QRNEdit.h"
@@ -57,20 +56,36 @@ qrnErrorCode codeOf(const RunTimeError& error) {
   }
 }
 
-// What the conversion answers, and failing that the number at the start of the text.
+// What the conversion answers, and failing that the number at the start of the text; Null for one that is too
+// large for any number.
 template <class Convert>
 Variant convertedOrVal(std::string_view text, Convert convert) {
   Variant value = Null();
-  if (!ignoringErrors([&] { value = convert(text); })) value = Val(text);
+  if (!ignoringErrors([&] { value = convert(text); })) ignoringErrors([&] { value = Val(text); });
   return value;
 }
 
+std::string_view textOf(const Variant& value) {
+  const auto* text = value.get<std::string>();
+  return text ? std::string_view(*text) : std::string_view();
+}
+
+// A baseline in which nothing has been put yet stands for an editor that nobody has touched.
+bool isUntouched(const Variant& content, qrnValueType type) {
+  if (content.isString()) return textOf(content).empty();
+  return CLng(content) == (type == qrnTypeList ? -1 : 0);
+}
+
 bool sameContent(const Variant& content, const Variant& baseline) {
-  if (const auto* text = content.get<std::string>()) {
-    const auto* before = baseline.get<std::string>();
-    return before && *text == *before;
+  if (content.isString()) return baseline.isString() && textOf(content) == textOf(baseline);
+  return isNumeric(baseline) && CDbl(content) == CDbl(baseline);
+}
+
+bool sameBits(std::string_view content, std::string_view baseline) {
+  for (int i = 0; i < static_cast<int>(content.size()); ++i) {
+    if (BitStringGet(content, i) != BitStringGet(baseline, i)) return false;
   }
-  return !baseline.isEmpty() && isNumeric(baseline) && CDbl(content) == CDbl(baseline);
+  return true;
 }
 
 }  // namespace
@@ -88,52 +103,62 @@ void QRNEdit::SetValue(const Variant& value) {
   propertyChanged("ValueText");
 }
 
+// Whatever the conversions refuse leaves the row as it was: each form is complete before anything is kept.
 void QRNEdit::showValue(const Variant& value) {
+  if (!lacksEditor()) showInEditor(value);
   storedValue_ = value;
+}
+
+void QRNEdit::showInEditor(const Variant& value) {
   switch (valueType_) {
-    case qrnTypeString:
-      displayBaseline_ = CStr(value);
-      txtValue_->SetText(*displayBaseline_.get<std::string>());
-      break;
+    case qrnTypeString: showText(CStr(value)); break;
     case qrnTypeInteger:
     case qrnTypeLong:
     case qrnTypeDouble:
     case qrnTypeDecimal:
     case qrnTypeDate:
-    case qrnTypeCurrency: showText(value); break;
-    case qrnTypeBoolean:
-      displayBaseline_ = static_cast<std::int32_t>(CBool(value) ? 1 : 0);
-      chkValue_->Check().SetValue(*displayBaseline_.get<std::int32_t>() != 0 ? 1 : 0);
-      break;
+    case qrnTypeCurrency: showText(numberText(value)); break;
+    case qrnTypeBoolean: showCheck(CBool(value)); break;
     case qrnTypeList: showList(value); break;
     case qrnTypeBitfield: showBits(value); break;
     case qrnTypeArray:
       displayBaseline_ = formatted(value);
       SetCurrentArrayValue(displayBaseline_);
       break;
-    case qrnTypeHexadecimal:
-      displayBaseline_ = ValueFormat().empty() ? value : Variant(formatted(value));
-      txtValue_->SetText(Hex(displayBaseline_));
-      break;
+    case qrnTypeHexadecimal: showHexadecimal(value); break;
     default: break;
   }
 }
 
-void QRNEdit::showText(const Variant& value) {
-  std::string shown(ieeeText(value));
-  if (shown.empty()) {
-    shown = formatted(value);
-    if (const std::string_view fixed = ieeeText(std::string_view(shown)); !fixed.empty()) shown = fixed;
-  }
+std::string QRNEdit::numberText(const Variant& value) const {
+  if (const std::string_view fixed = ieeeText(value); !fixed.empty()) return std::string(fixed);
+  std::string shown = formatted(value);
+  if (const std::string_view fixed = ieeeText(std::string_view(shown)); !fixed.empty()) shown = fixed;
+  return shown;
+}
+
+void QRNEdit::showText(std::string shown) {
   txtValue_->SetText(shown);
   displayBaseline_ = std::move(shown);
+}
+
+void QRNEdit::showCheck(bool ticked) {
+  const std::int16_t state = ticked ? 1 : 0;
+  chkValue_->Check().SetValue(state);
+  displayBaseline_ = std::int32_t{state};
+}
+
+void QRNEdit::showHexadecimal(const Variant& value) {
+  Variant baseline = ValueFormat().empty() ? value : Variant(formatted(value));
+  txtValue_->SetText(Hex(baseline));
+  displayBaseline_ = std::move(baseline);
 }
 
 void QRNEdit::showList(const Variant& value) {
   host::ListEditor& list = *listEditor();
   const std::int32_t index = isNumeric(value) ? CLng(value) : findListIndex(list, CStr(value));
-  displayBaseline_ = index;
   list.SetListIndex(index);
+  displayBaseline_ = index;
 }
 
 void QRNEdit::showBits(const Variant& value) {
@@ -159,7 +184,13 @@ std::string QRNEdit::bitsOfEditor() const {
 
 // ---- from the editor ----
 
-std::string QRNEdit::ValueText() {
+std::string QRNEdit::ValueText() const {
+  std::string text;
+  if (!lacksEditor()) ignoringErrors([&] { text = readText(); });
+  return text;
+}
+
+std::string QRNEdit::readText() const {
   switch (valueType_) {
     case qrnTypeBoolean: return CStr(Variant(chkValue_->Check().Value() != 0));
     case qrnTypeList: return cboValue_->Combo().Text();
@@ -170,9 +201,9 @@ std::string QRNEdit::ValueText() {
   }
 }
 
-Variant QRNEdit::Value() { return readValue().value; }
+Variant QRNEdit::Value() const { return readValue().value; }
 
-qrnErrorCode QRNEdit::ValueError() {
+qrnErrorCode QRNEdit::ValueError() const {
   const ReadResult result = readValue();
   if (result.error != qrnErrorNone) return result.error;
   return result.value.isNull() ? qrnErrorUnknown : qrnErrorNone;
@@ -183,11 +214,8 @@ QRNEdit::ReadResult QRNEdit::checkedNumber(const Variant& value) const {
   return {check.passed ? value : Variant(Null()), check.error};
 }
 
-QRNEdit::ReadResult QRNEdit::readValue() {
-  // Those that fall back to the number at the start of the text leave errors of their rules to the caller.
-  const bool guarded = valueType_ == qrnTypeString || valueType_ == qrnTypeDouble ||
-                       valueType_ == qrnTypeDate || valueType_ == qrnTypeCurrency;
-  if (!guarded) return readTyped();
+QRNEdit::ReadResult QRNEdit::readValue() const {
+  if (lacksEditor()) return {Variant(std::string())};
   try {
     return readTyped();
   } catch (const RunTimeError& error) {
@@ -195,7 +223,7 @@ QRNEdit::ReadResult QRNEdit::readValue() {
   }
 }
 
-QRNEdit::ReadResult QRNEdit::readTyped() {
+QRNEdit::ReadResult QRNEdit::readTyped() const {
   const std::string_view typed = txtValue_ ? std::string_view(txtValue_->Text()) : std::string_view();
   switch (valueType_) {
     case qrnTypeString: {
@@ -234,60 +262,52 @@ QRNEdit::ReadResult QRNEdit::readTyped() {
 std::optional<Variant> QRNEdit::editorContent() const {
   switch (valueType_) {
     case qrnTypeList: return Variant(cboValue_->Combo().ListIndex());
-    case qrnTypeBoolean: return Variant(static_cast<std::int32_t>(chkValue_->Check().Value()));
+    case qrnTypeBoolean: return Variant(std::int32_t{chkValue_->Check().Value()});
     case qrnTypeBitfield: return Variant(bitsOfEditor());
     case qrnTypeHexadecimal: return Variant(HexToLong(txtValue_->Text()));
-    case qrnTypeArray: return std::nullopt;
     default: return txtValue_ ? std::optional(Variant(txtValue_->Text())) : std::nullopt;
   }
 }
 
-bool QRNEdit::ValueChanged() {
-  // A row that shows an array, or nothing, counts as changed.
-  bool changed = true;
-  const bool compared = ignoringErrors([&] {
+bool QRNEdit::differs(const Variant& content) const {
+  if (valueType_ == qrnTypeBitfield) return !sameBits(textOf(content), textOf(displayBaseline_));
+  if (displayBaseline_.isEmpty()) return !isUntouched(content, valueType_);
+  return !sameContent(content, displayBaseline_);
+}
+
+bool QRNEdit::ValueChanged() const {
+  bool changed = false;
+  ignoringErrors([&] {
+    if (lacksEditor()) return;
     const auto content = editorContent();
-    if (!content) return;
-    if (valueType_ == qrnTypeBitfield) {
-      const auto* baseline = displayBaseline_.get<std::string>();
-      const std::string bits = *content->get<std::string>();
-      changed = false;
-      for (int i = 0; i < static_cast<int>(bits.size()); ++i) {
-        changed |= BitStringGet(bits, i) != BitStringGet(baseline ? std::string_view(*baseline) : "", i);
-      }
-      return;
-    }
-    const bool nothingShown =
-        displayBaseline_.isEmpty() && content->isString() && content->get<std::string>()->empty();
-    changed = !nothingShown && !sameContent(*content, displayBaseline_);
+    // A row that shows an array, or nothing, counts as changed.
+    changed = !content || differs(*content);
   });
-  return compared && changed;
+  return changed;
 }
 
 void QRNEdit::SetValueChanged(bool changed) {
-  if (changed) return;
+  if (changed || lacksEditor()) return;
   bool taken = false;
   ignoringErrors([&] {
-    const auto content = editorContent();
-    if (!content || !ValueChanged()) return;
-    displayBaseline_ = *content;
-    taken = true;
+    auto content = editorContent();
+    taken = content && differs(*content);
+    if (taken) displayBaseline_ = *std::move(content);
   });
   if (taken) raise(StatusChange, "StatusChange");
 }
 
 void QRNEdit::correctDecimalSeparator() {
-  const char local =
-      currentLocale().decimalSeparator.empty() ? '.' : currentLocale().decimalSeparator.front();
-  const char other = local == '.' ? ',' : '.';
+  const std::string& local = currentLocale().decimalSeparator;
+  const std::string_view other = local == "." ? "," : ".";
   const std::string& typed = txtValue_->Text();
   const auto found = typed.find(other);
   if (found == std::string::npos) return;
   std::string corrected = typed;
-  corrected[found] = local;
-  const std::int32_t caret = txtValue_->SelStart();
+  corrected.replace(found, other.size(), local);
+  const std::int32_t start = txtValue_->SelStart(), length = txtValue_->SelLength();
   txtValue_->SetText(corrected);
-  txtValue_->select(caret, 0);
+  txtValue_->select(start, length);
 }
 
 // ---- arrays ----
@@ -309,8 +329,14 @@ Variant QRNEdit::ArrayValue(std::int32_t Index) const { return array_ ? array_->
 
 void QRNEdit::SetArrayValue(std::int32_t Index, const Variant& value) {
   if (!array_) return;
+  const std::int32_t before = array_->CurrentArrayValueIndex();
   array_->SetCurrentArrayValueIndex(Index);
-  SetValue(value);
+  try {
+    SetValue(value);
+  } catch (const RunTimeError&) {
+    array_->SetCurrentArrayValueIndex(before);
+    throw;
+  }
   invalidate();
 }
 

@@ -7,4 +7,10 @@ void CompositeEditor::SetScaleMode(std::int16_t mode) {
   resize();
 }
 
+void CompositeEditor::SetFont(host::FontPtr font) {
+  setFont(font);
+  inner().SetFont(std::move(font));
+  resize();
+}
+
 }  // namespace qrn

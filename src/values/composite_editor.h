@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/editor.h"
 #include "host/user_control.h"
 
 namespace qrn {
@@ -10,8 +11,10 @@ class CompositeEditor : public host::UserControl {
  public:
   std::int16_t ScaleMode() const { return scaleMode(); }
   void SetScaleMode(std::int16_t mode);
+  /// For the inner control, and for measuring its texts.
+  void SetFont(host::FontPtr font);
 
-  virtual host::Control& inner() = 0;
+  virtual host::Editor& inner() = 0;
 
   host::Control* focusTarget() override { return inner().focusTarget(); }
 
