@@ -8,8 +8,9 @@ class WeakLink;
 class Anchor {
  public:
   Anchor() = default;
+  // A copy of an object is another object: nobody refers to it yet.
   Anchor(const Anchor&) {}
-  Anchor& operator=(const Anchor&) { return *this; }
+  Anchor& operator=(const Anchor&) { return *this; }  // NOLINT(bugprone-unhandled-self-assignment)
   ~Anchor();
 
  private:

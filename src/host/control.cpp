@@ -157,19 +157,29 @@ Point Control::fromSurface(Point at) const { return at - onSurface().topLeft(); 
 
 void Control::invalidate() { invalidate({{}, {}, 1e9, 1e9}); }
 
-void Control::invalidate(const Rect& pixels) {
-  if (!visible_) return;
-  Rect area = pixels.intersected({0, 0, pixelSize().width, pixelSize().height});
+// The control whose native widget shows this one: itself, one around it, or none while nothing is on screen.
+const Control* Control::paintedBy() const {
   const Control* control = this;
-  // Climbs to the surface; whatever is clipped away on the way needs no painting.
-  while (control->container_ && !control->peer_) {
-    const ContainerControl& container = *control->container_;
-    if (!container.visible_ || area.empty()) return;
-    area = area.translated(container.pixelBounds(*control).topLeft());
-    area = area.intersected({0, 0, container.pixelSize().width, container.pixelSize().height});
-    control = &container;
+  while (!control->peer_ && control->container_) {
+    if (!control->visible_) return nullptr;
+    control = control->container_;
   }
-  if (control->peer_ && !area.empty()) control->peer_->invalidate(area);
+  return control->visible_ && control->peer_ ? control : nullptr;
+}
+
+void Control::invalidate(const Rect& pixels) {
+  const Control* const painter = paintedBy();
+  if (!painter) return;
+  const auto clipped = [](const Rect& area, const Control& control) {
+    return area.intersected({0, 0, control.pixelSize().width, control.pixelSize().height});
+  };
+  Rect area = clipped(pixels, *this);
+  // Whatever is clipped away on the way to the surface needs no painting.
+  for (const Control* control = this; control != painter && !area.empty(); control = control->container_) {
+    const ContainerControl& container = *control->container_;
+    area = clipped(area.translated(container.pixelBounds(*control).topLeft()), container);
+  }
+  if (!area.empty()) painter->peer_->invalidate(area);
 }
 
 void Control::touched(Aspect aspect) {

@@ -144,6 +144,8 @@ class Control : public Object {
   void touched(Aspect aspect);
 
  private:
+  const Control* paintedBy() const;
+
   struct Rare;  // what few controls have
   Rare& rare();
 
