@@ -6,21 +6,26 @@ namespace qrn {
 
 void clsQRNArray::SetSize(std::int32_t size) {
   size_ = size;
-  if (size > 0) elements_.assign(static_cast<std::size_t>(size), Variant());
+  if (size <= 0) return;
+  elements_.clear();
+  allocated_ = true;
 }
 
-Variant clsQRNArray::Value(std::int32_t Index) const {
-  if (!holds(Index)) return Null();
-  return elements_[static_cast<std::size_t>(Index)];
+const Variant& clsQRNArray::element(std::int32_t index) const {
+  static const Variant empty;
+  const auto stored = elements_.find(index);
+  return stored == elements_.end() ? empty : stored->second;
 }
+
+Variant clsQRNArray::Value(std::int32_t Index) const { return holds(Index) ? element(Index) : Null(); }
 
 void clsQRNArray::SetValue(std::int32_t Index, const Variant& value) {
-  if (holds(Index)) elements_[static_cast<std::size_t>(Index)] = value;
+  if (holds(Index)) elements_[Index] = value;
 }
 
 const Variant& clsQRNArray::CurrentArrayValue() const {
-  if (elements_.empty()) raiseRunTimeError(kSubscriptOutOfRange, typeName());
-  return elements_[holds(current_) ? static_cast<std::size_t>(current_) : 0];
+  if (!allocated_) raiseRunTimeError(kSubscriptOutOfRange, typeName());
+  return element(holds(current_) ? current_ : 0);
 }
 
 }  // namespace qrn

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <map>
 
 #include "enums/enumerations.h"
 #include "runtime/variant.h"
@@ -34,13 +34,15 @@ class clsQRNArray final : public Object {
   void SetCurrentArrayValue(const Variant& value) { SetValue(current_, value); }
 
  private:
-  bool holds(std::int32_t index) const { return index >= 0 && index < size_ && index < allocated(); }
-  std::int32_t allocated() const { return static_cast<std::int32_t>(elements_.size()); }
+  bool holds(std::int32_t index) const { return index >= 0 && index < size_; }
+  const Variant& element(std::int32_t index) const;
 
-  std::vector<Variant> elements_;
+  // Only what was stored takes room, as a caller may ask for any size.
+  std::map<std::int32_t, Variant> elements_;
   std::int32_t size_ = 0;
   std::int32_t current_ = -1;
   qrnValueType arrayType_ = qrnTypeString;
+  bool allocated_ = false;
 };
 
 }  // namespace qrn
