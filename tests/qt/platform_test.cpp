@@ -120,6 +120,9 @@ TEST_F(Platform, ARealEditorFollowsAChangeOfThePalette) {
   QPalette dark(QColor(0x35, 0x35, 0x35));
   dark.setColor(QPalette::Base, QColor(1, 2, 3));
   QApplication::setPalette(dark);
+  // Qt tells widgets only while the application runs its event loop.
+  QEvent changed(QEvent::PaletteChange);
+  QCoreApplication::sendEvent(canvas, &changed);
   EXPECT_EQ(shown<QLineEdit>()->palette().color(QPalette::Base), QColor(1, 2, 3));
   QApplication::setPalette(usual);
 }

@@ -7,13 +7,16 @@ namespace {
 
 // The scale factor of an application is fixed when it starts, so another one takes another process.
 TEST(ScaleFactorTwo, PaintedEditorsLookLikeRealOnes) {
+  // The other process runs these tests too and must not start a third one, whatever its filter lets through.
+  if (qEnvironmentVariableIsSet("QRN_TEST_SCALE"))
+    GTEST_SKIP() << "runs at a scale factor of its own already";
   QProcess again;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("QRN_TEST_SCALE", "2");
   again.setProcessEnvironment(environment);
   again.setProcessChannelMode(QProcess::MergedChannels);
   again.start(QCoreApplication::applicationFilePath(),
-              {"--gtest_filter=*Painted*:Surface.*", "--gtest_brief=1"});
+              {"--gtest_filter=*Painted*:Surface.*-ScaleFactorTwo.*", "--gtest_brief=1"});
   ASSERT_TRUE(again.waitForFinished(120000));
   EXPECT_EQ(again.exitCode(), 0) << again.readAll().toStdString();
 }
