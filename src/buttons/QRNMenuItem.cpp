@@ -50,6 +50,7 @@ void QRNMenuItem::SetEnabled(bool enabled) {
   if (enabled == Enabled()) return;
   UserControl::SetEnabled(enabled);
   propertyChanged("Enabled");
+  invalidate();
 }
 
 void QRNMenuItem::SetButtonMode(qrnButtonMode mode) {
@@ -83,15 +84,9 @@ void QRNMenuItem::SetRedraw(bool redraw) {
 
 // ---- the menu ----
 
-std::shared_ptr<host::MenuEntry> QRNMenuItem::AddMenuItem(std::string_view MenuCaption) {
+ContextMenu& QRNMenuItem::menu() {
   if (!menu_) menu_ = std::make_unique<ContextMenu>();
-  return menu_->add(MenuCaption);
-}
-
-std::shared_ptr<host::MenuEntry> QRNMenuItem::GetMenuItem(std::int32_t Index) const {
-  // The template exists from the start, whether or not somebody has asked for more.
-  if (!menu_) return ContextMenu().entry(Index);
-  return menu_->entry(Index);
+  return *menu_;
 }
 
 void QRNMenuItem::RemoveMenuItem(std::int32_t Index) {
@@ -106,11 +101,11 @@ void QRNMenuItem::showContextMenu(bool atKeyboard) {
   if (!menu_) return;
   Point at = platform().cursor();
   if (atKeyboard) {
-    const auto third = [](double length, int factor) {
-      return static_cast<double>(factor * static_cast<std::int32_t>(std::nearbyint(length)) / 3);
+    const auto third = [](double length) {
+      return static_cast<double>(static_cast<std::int32_t>(std::nearbyint(length)) / 3);
     };
     at = platform().screenPosition(root()) + onSurface().topLeft() +
-         Point{third(ScaleWidth(), 1), third(ScaleHeight(), 2)};
+         Point{third(ScaleWidth()), third(2 * ScaleHeight())};
   }
   const WeakRef<QRNMenuItem> self(this);
   const auto chosen = menu_->show(platform(), at);
@@ -128,7 +123,7 @@ bool QRNMenuItem::isInside(Point at) const {
 bool QRNMenuItem::isCursorOver() {
   const Point at = platform().cursor();
   const auto half = [](double value) {
-    return static_cast<std::intptr_t>(static_cast<std::uint16_t>(value));
+    return static_cast<std::intptr_t>(static_cast<std::uint16_t>(static_cast<std::int32_t>(value)));
   };
   return windowMessage({host::wm::NcHitTest, 0, half(at.y) << 16 | half(at.x)}) == host::kHitClient;
 }

@@ -54,9 +54,11 @@ class QRNMenuItem final : public host::UserControl {
   bool Redraw() const;
   void SetRedraw(bool redraw);
 
-  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption);
-  /// Null for an index where nothing is loaded.
-  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) const;
+  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption) {
+    return menu().add(MenuCaption);
+  }
+  /// 0 is the template of all others. Null for an index where nothing is loaded.
+  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) { return menu().entry(Index); }
   void RemoveMenuItem(std::int32_t Index);
   void RemoveMenu();
 
@@ -104,6 +106,7 @@ class QRNMenuItem final : public host::UserControl {
   bool doClick();
   void startHitTracking();
   void stopHitTracking();
+  ContextMenu& menu();
   void showContextMenu(bool atKeyboard);
 
   const host::PicturePtr& shownIcon() const;

@@ -104,7 +104,7 @@ double QRNMenuItem::paintIcon(host::Surface& surface, Size size, double lineHeig
 
 void QRNMenuItem::paintCaption(host::Surface& surface, Size size, double iconSlotWidth, double lineHeight) {
   if (caption_.empty()) return;
-  const std::string wrapped = WrapCaption(caption_, size.width - iconSlotWidth - 2 * margin_);
+  const std::string wrapped = WrapCaption(caption_, size.width - iconSlotWidth - 2.0 * margin_);
   const auto lines = linesOf(wrapped);
   double y = (size.height - lineHeight * static_cast<double>(lines.size())) / 2;
 

@@ -11,6 +11,7 @@ struct QRNMenuItemTable {
   static host::ClassTable make() {
     using C = QRNMenuItem;
     const auto none = Default(Variant());
+    const auto emptyPicture = std::make_shared<host::Picture>(std::vector<host::Picture::Bitmap>());
     host::ClassTable table;
     table.name = "QRNMenuItem";
     table.progId = "QRNV16Controls2.QRNMenuItem";
@@ -37,7 +38,10 @@ struct QRNMenuItemTable {
         property<&host::Control::Enabled, &C::SetEnabled>("Enabled", 9).stored("Enabled", Variant(true)),
         property<&C::ButtonMode, &C::SetButtonMode>("ButtonMode", 10)
             .stored("ButtonMode", Variant(static_cast<std::int32_t>(qrnButtonFlat))),
-        property<&C::Icon, &C::SetIcon>("Icon", 11).stored("Icon", none).notifies(Notify::Always),
+        property<&C::Icon, &C::SetIcon>("Icon", 11)
+            .stored("Icon", none)
+            .startsAs(Variant(emptyPicture))
+            .notifies(Notify::Always),
         property<&C::IconDisabled, &C::SetIconDisabled>("IconDisabled", 12)
             .stored("IconDisabled", none)
             .notifies(Notify::Always),

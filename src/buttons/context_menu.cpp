@@ -4,7 +4,11 @@ namespace qrn {
 
 std::shared_ptr<host::MenuEntry> ContextMenu::add(std::string_view caption) {
   const int index = menu_.count();
-  return menu_.load(index, caption) ? menu_.entry(index) : nullptr;
+  if (!menu_.load(index, caption)) return nullptr;
+  const auto added = menu_.entry(index), model = menu_.entry(0);
+  added->SetEnabled(model->Enabled());
+  added->SetChecked(model->Checked());
+  return added;
 }
 
 void ContextMenu::remove(int index) {
