@@ -69,7 +69,7 @@ void QRNDisplay::SetForeColor(host::Color color) {
 }
 
 void QRNDisplay::SetFont(host::FontPtr font) {
-  if (font == this->font()) return;
+  if (font && *font == *this->font()) return;
   setFont(std::move(font));
   lblTitle_.fontChanged();
   propertyChanged("Font");
@@ -79,23 +79,9 @@ void QRNDisplay::SetFont(host::FontPtr font) {
 void QRNDisplay::SetEnabled(bool enabled) {
   if (enabled == Enabled()) return;
   UserControl::SetEnabled(enabled);
-  sbrVertical_.SetEnabled(enabled);
+  sbrVertical_.SetEnabled(enabled && sbrVertical_.Visible());
   propertyChanged("Enabled");
-}
-
-void QRNDisplay::SetMaximized(bool maximized) {
-  store(maximized_, maximized, "Maximized", After::Nothing);
-  applyTitleLook();
-}
-
-void QRNDisplay::SetIconCloseHidden(bool hidden) {
-  store(iconCloseHidden_, hidden, "IconCloseHidden", After::Nothing);
-  applyTitleLook();
-}
-
-void QRNDisplay::SetIconMaxRstHidden(bool hidden) {
-  store(iconMaxRstHidden_, hidden, "IconMaxRstHidden", After::Nothing);
-  applyTitleLook();
+  if (titleStyle_ == qrnTitleDialog) invalidate();
 }
 
 void QRNDisplay::SetTitleStyle(qrnTitleStyle style) {
@@ -118,25 +104,10 @@ void QRNDisplay::SetRedraw(bool redraw) {
   if (switchedOn) arrange();
 }
 
-void QRNDisplay::SetMaxButtonToolTip(const std::string& text) {
-  store(maxButtonToolTip_, text, "MaxButtonToolTip", After::Nothing);
-  applyTitleLook();
-}
-
-void QRNDisplay::SetRstButtonToolTip(const std::string& text) {
-  store(rstButtonToolTip_, text, "RstButtonToolTip", After::Nothing);
-  applyTitleLook();
-}
-
 void QRNDisplay::SetCloseButtonToolTip(const std::string& text) {
   if (text == CloseButtonToolTip()) return;
   imgClose_.SetToolTipText(text);
   propertyChanged("CloseButtonToolTip");
-}
-
-void QRNDisplay::SetActive(bool active) {
-  store(active_, active, "Active", After::Repaint);
-  applyTitleLook();
 }
 
 // ---- sizes that follow from the font ----

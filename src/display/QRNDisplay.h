@@ -47,20 +47,28 @@ class QRNDisplay final : public host::UserControl {
   using Control::Enabled;
   void SetEnabled(bool enabled) override;
   bool Maximized() const { return maximized_; }
-  void SetMaximized(bool maximized);
+  void SetMaximized(bool maximized) { store(maximized_, maximized, "Maximized", After::TitleLook); }
   bool IconCloseHidden() const { return iconCloseHidden_; }
-  void SetIconCloseHidden(bool hidden);
+  void SetIconCloseHidden(bool hidden) {
+    store(iconCloseHidden_, hidden, "IconCloseHidden", After::TitleLook);
+  }
   bool IconMaxRstHidden() const { return iconMaxRstHidden_; }
-  void SetIconMaxRstHidden(bool hidden);
+  void SetIconMaxRstHidden(bool hidden) {
+    store(iconMaxRstHidden_, hidden, "IconMaxRstHidden", After::TitleLook);
+  }
   qrnTitleStyle TitleStyle() const { return titleStyle_; }
   void SetTitleStyle(qrnTitleStyle style);
   /// Run time only. Errors: 394 when read and 383 when set at design time.
   bool Redraw() const;
   void SetRedraw(bool redraw);
   const std::string& MaxButtonToolTip() const { return maxButtonToolTip_; }
-  void SetMaxButtonToolTip(const std::string& text);
+  void SetMaxButtonToolTip(const std::string& text) {
+    store(maxButtonToolTip_, text, "MaxButtonToolTip", After::TitleLook);
+  }
   const std::string& RstButtonToolTip() const { return rstButtonToolTip_; }
-  void SetRstButtonToolTip(const std::string& text);
+  void SetRstButtonToolTip(const std::string& text) {
+    store(rstButtonToolTip_, text, "RstButtonToolTip", After::TitleLook);
+  }
   const std::string& CloseButtonToolTip() const { return imgClose_.ToolTipText(); }
   void SetCloseButtonToolTip(const std::string& text);
   std::int32_t LeftMargin() const { return leftMargin_; }
@@ -86,7 +94,7 @@ class QRNDisplay final : public host::UserControl {
   }
   /// Whether the title bar looks active.
   bool Active() const { return active_; }
-  void SetActive(bool active);
+  void SetActive(bool active) { store(active_, active, "Active", After::TitleLook); }
   /// 0 left, 1 right, 2 centre.
   std::int32_t ButtonsAlignment() const { return buttonsAlignment_; }
   void SetButtonsAlignment(std::int32_t alignment) {
@@ -147,6 +155,7 @@ class QRNDisplay final : public host::UserControl {
 
   void paint(host::Surface& surface, Size size) override;
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
+  void mouseMove(std::int16_t, std::int16_t, Point) override { hover(nullptr); }
   void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
   bool wheel(double notches) override;
   void keyDown(std::int16_t& keyCode, std::int16_t& shift) override;
@@ -168,6 +177,8 @@ class QRNDisplay final : public host::UserControl {
 
  protected:
   void initialize() override;
+  /// A new panel has colours of its own, not those of the container.
+  void initProperties() override {}
   void resize() override { arrange(); }
   void show() override;
   void realised() override { sbrVertical_.realiseWithSurface(); }
@@ -178,7 +189,7 @@ class QRNDisplay final : public host::UserControl {
   friend class PanelItem;
   friend struct QRNDisplayTable;
 
-  enum class After : std::uint8_t { Nothing, Repaint, Arrange };
+  enum class After : std::uint8_t { Nothing, Repaint, Arrange, TitleLook };
   template <class T>
   void store(T& field, const T& value, std::string_view key, After after) {
     if (field == value) return;
@@ -188,6 +199,8 @@ class QRNDisplay final : public host::UserControl {
       invalidate();
     else if (after == After::Arrange)
       arrange();
+    else if (after == After::TitleLook)
+      applyTitleLook();
   }
 
   // ---- arrangement and layout (QRNDisplay_layout.cpp) ----
@@ -209,6 +222,7 @@ class QRNDisplay final : public host::UserControl {
   void endEditCycle(std::int32_t index, bool changed);
   void passiveClick() { raise(Click, "Click"); }
   void toggleMaximized();
+  void hover(const host::Control* titleButton);
   void clickOn(host::Control& child);
 
   // ---- painting (QRNDisplay_paint.cpp) ----

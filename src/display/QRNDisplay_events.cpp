@@ -87,9 +87,12 @@ void QRNDisplay::childMouseDown(host::Control& child, host::MouseButton button, 
 
 void QRNDisplay::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point at) {
   const bool button = &child == &imgClose_ || &child == &imgMaxRst_;
-  const host::Control* now = button && isInside(child, at) ? &child : nullptr;
-  if (now == hovered_) return;
-  hovered_ = now;
+  hover(button && isInside(child, at) ? &child : nullptr);
+}
+
+void QRNDisplay::hover(const host::Control* titleButton) {
+  if (titleButton == hovered_) return;
+  hovered_ = titleButton;
   imgClose_.invalidate();
   imgMaxRst_.invalidate();
 }

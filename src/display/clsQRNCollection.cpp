@@ -78,7 +78,7 @@ PanelItemPtr clsQRNCollection::Item(const Variant& aSelector) const {
 
 void clsQRNCollection::Remove(const Variant& aSelector) {
   if (!aSelector.isObject()) {
-    removeAt(GetIndexOf(Variant(std::const_pointer_cast<PanelItem>(Item(aSelector)))));
+    removeAt(Item(aSelector)->position());
     return;
   }
   std::int32_t position = 0;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "runtime/conversions.h"
+
 namespace qrn {
 
 ColumnWeights ColumnWeights::of(std::int32_t label, std::int32_t value, std::int32_t unit, float tolerance) {
@@ -56,7 +58,7 @@ bool ColumnFit::mustRefit() const {
 ColumnWidths ColumnFit::widths() const {
   ColumnWidths result{};
   for (std::size_t i = 0; i < kColumns; ++i) {
-    result[i] = static_cast<std::int32_t>(std::nearbyint(grow_ * widest_[i] + slack_));
+    if (weights_.isAutomatic(static_cast<int>(i))) result[i] = CLng(Variant(grow_ * widest_[i] + slack_));
   }
   return result;
 }

@@ -35,7 +35,7 @@ class ColumnFit {
 
   /// Some row is too narrow, or all rows of an automatic column are too wide.
   bool mustRefit() const;
-  /// The widest minimum of each automatic column, plus the slack.
+  /// The widest minimum of each automatic column, plus the slack. Errors: 6 for a slack beyond all widths.
   ColumnWidths widths() const;
 
  private:
