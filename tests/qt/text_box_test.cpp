@@ -52,11 +52,12 @@ TEST_F(TextBoxPeer, PositionsCountCodePoints) {
 
 TEST_F(TextBoxPeer, WhatTheProgramWritesIsShownAndNotReported) {
   panel->text().SetFocus();
+  panel->heard.clear();
   panel->text().SetText("new");
   panel->text().select(1, 2);
   EXPECT_EQ(shown<QLineEdit>()->text(), "new");
   EXPECT_EQ(shown<QLineEdit>()->selectedText(), "ew");
-  EXPECT_EQ(panel->heard, std::vector<std::string>{"text GotFocus"});
+  EXPECT_EQ(panel->heard, std::vector<std::string>());
 }
 
 TEST_F(TextBoxPeer, NoMoreIsTypedThanFits) {
