@@ -54,6 +54,7 @@ TEST_F(Life, AfterItsWindowThePanelShowsInAnotherOne) {
   canvas = platform.widget(*panel);
   canvas->setParent(window.get());
   window->show();
+  window->activateWindow();  // without a window manager nobody else does
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   EXPECT_EQ(shownWidgets(), 2);
   ASSERT_TRUE(shown<QLineEdit>());

@@ -112,6 +112,7 @@ PanelTest::PanelTest() {
   QWidget::setTabOrder(before, canvas);
   QWidget::setTabOrder(canvas, after);
   window->show();
+  window->activateWindow();  // without a window manager nobody else does
   EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
   before->setFocus();
 }
