@@ -9,6 +9,7 @@ namespace qrn::host {
 bool booleanFrom(const Variant& value) { return CBool(value); }
 std::int32_t longFrom(const Variant& value) { return CLng(value); }
 std::int16_t integerFrom(const Variant& value) { return CInt(value); }
+float singleFrom(const Variant& value) { return CSng(value); }
 double doubleFrom(const Variant& value) { return CDbl(value); }
 std::string stringFrom(const Variant& value) { return CStr(value); }
 
@@ -36,11 +37,22 @@ Variant checked(PropertyType type, const Variant& value) {
     case PropertyType::Integer: return integerFrom(value);
     case PropertyType::Long:
     case PropertyType::Color: return longFrom(value);
-    case PropertyType::Single:
+    case PropertyType::Single: return singleFrom(value);
     case PropertyType::Double: return doubleFrom(value);
     case PropertyType::Font: return toVariant(fontFrom(value));
     case PropertyType::Picture: return toVariant(pictureFrom(value));
     default: return value;
+  }
+}
+
+// Says which key a value was for that is refused.
+template <class Action>
+void forKey(const ClassTable& table, std::string_view key, Action&& action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    raiseRunTimeError(kInvalidFileFormat, table.name,
+                      "Property \"" + std::string(key) + "\": " + error.description());
   }
 }
 
@@ -63,7 +75,10 @@ PicturePtr pictureFrom(const Variant& value) { return objectFrom<Picture>(value)
 
 Variant Default::of(const UserControl& control) const {
   switch (from_) {
-    case From::Font: return toVariant(control.site().ambient().font);
+    case From::Font: {
+      const FontPtr font = control.site().ambient().font;
+      return toVariant(font ? font : control.platform().defaultFont());
+    }
     case From::BackColor: return toVariant(control.site().ambient().backColor);
     case From::ForeColor: return toVariant(control.site().ambient().foreColor);
     default: return value_;
@@ -111,15 +126,13 @@ void restoreProperties(UserControl& control, const PropertyBag& bag) {
   const ClassTable& table = control.classTable();
   for (const Property* property : inOrder(table, table.readingOrder)) {
     const Variant* kept = bag.find(property->key);
-    try {
+    forKey(table, property->key, [&] {
       steps.push_back({property, kept ? checked(property->type, *kept) : property->readDefault.of(control)});
-    } catch (const RunTimeError& error) {
-      raiseRunTimeError(kInvalidFileFormat, table.name,
-                        "Property \"" + std::string(property->key) + "\": " + error.description());
-    }
+    });
   }
-  for (const Step& step : steps) {
-    (step.property->restore ? step.property->restore : step.property->write)(control, step.value);
+  for (const auto& [property, value] : steps) {
+    const Property::Write apply = property->restore ? property->restore : property->write;
+    forKey(table, property->key, [&] { apply(control, value); });
   }
 }
 

@@ -73,6 +73,7 @@ Variant toVariant(const T& value) {
 bool booleanFrom(const Variant& value);
 std::int32_t longFrom(const Variant& value);
 std::int16_t integerFrom(const Variant& value);
+float singleFrom(const Variant& value);
 double doubleFrom(const Variant& value);
 std::string stringFrom(const Variant& value);
 FontPtr fontFrom(const Variant& value);
@@ -89,7 +90,7 @@ auto fromVariant(const Variant& value) {
   else if constexpr (type == PropertyType::Long || type == PropertyType::Color)
     return static_cast<V>(longFrom(value));
   else if constexpr (type == PropertyType::Single)
-    return static_cast<float>(doubleFrom(value));
+    return singleFrom(value);
   else if constexpr (type == PropertyType::Double)
     return doubleFrom(value);
   else if constexpr (type == PropertyType::String)
@@ -165,7 +166,8 @@ struct ClassTable {
 };
 
 /// Checks every value of the bag before the first is applied, so that a refused bag leaves the control as it
-/// was. Errors: 321 naming the key and what was wrong with its value. Unknown keys are ignored.
+/// was; what only a setter can tell is refused when its turn comes. Errors: 321 naming the key and what was
+/// wrong with its value. Unknown keys are ignored.
 void restoreProperties(UserControl& control, const PropertyBag& bag);
 void saveProperties(const UserControl& control, PropertyBag& bag);
 

@@ -7,6 +7,8 @@
 namespace qrn::host {
 
 ContainerControl::~ContainerControl() {
+  // What still lies inside can't be asked for its surface any more.
+  if (Container()) input().forget(*this);
   for (Control* control : contained_) control->container_ = nullptr;
 }
 
@@ -15,6 +17,7 @@ void ContainerControl::contain(Control& control, UserControl& parent, std::strin
   control.parent_ = &parent;
   control.container_ = this;
   contained_.push_back(&control);
+  control.placed();
 }
 
 void ContainerControl::release(Control& control) {
@@ -40,7 +43,7 @@ Rect ContainerControl::pixelBounds(const Control& child) const {
 
 Control* ContainerControl::childAt(Point pixels) const {
   for (auto child = contained_.rbegin(); child != contained_.rend(); ++child) {
-    if ((*child)->Visible() && pixelBounds(**child).contains(pixels)) return *child;
+    if ((*child)->Visible() && (*child)->Enabled() && pixelBounds(**child).contains(pixels)) return *child;
   }
   return nullptr;
 }

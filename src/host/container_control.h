@@ -24,9 +24,16 @@ class ContainerControl : public Control {
 
   /// The place of a contained control in pixels of this one.
   Rect pixelBounds(const Control& child) const;
+  /// The uppermost visible and enabled one; the mouse goes through a disabled control to what lies behind it.
   Control* childAt(Point pixels) const;
   /// Draws this control and everything in it that has no native widget.
   void paintTree(Surface& surface);
+
+ protected:
+  // What lies inside has come along.
+  void placed() override {
+    for (Control* control : contained_) control->placed();
+  }
 
  private:
   std::vector<Control*> contained_;

@@ -52,8 +52,11 @@ void Control::SetVisible(bool visible) {
   if (visible == visible_) return;
   invalidate();
   visible_ = visible;
+  const WeakRef<Control> self(this);
   if (!visible && container_ && hasFocus()) input().setFocus(nullptr);
-  if (peer_) peer_->changed(Aspect::Place);
+  // A listener may have removed the control, or shown it again.
+  if (!self || visible_ != visible) return;
+  tellPlace();
   invalidate();
   visibilityChanged();
 }
@@ -66,11 +69,7 @@ void Control::Move(double left, double top, double width, double height) {
   const Rect before = bounds_;
   invalidate();
   bounds_ = target;
-  if (peer_) peer_->changed(Aspect::Place);
-  // The one editor with a native widget may lie inside, and moves along.
-  if (Control* focus = container_ ? input().focus() : nullptr;
-      focus && focus != this && focus->peer() && hasFocus())
-    focus->peer()->changed(Aspect::Place);
+  tellPlace();
   invalidate();
   moved(before);
 }
@@ -87,7 +86,18 @@ void Control::SetToolTipText(std::string_view text) {
 }
 
 void Control::SetFocus() {
-  if (Control* target = focusTarget()) input().setFocus(target);
+  Control* target = focusTarget();
+  if (target && target->shown() && target->enabledUpToSurface()) input().setFocus(target);
+}
+
+bool Control::enabledUpToSurface() const {
+  return enabled_ && (!container_ || container_->enabledUpToSurface());
+}
+
+// The native widgets inside move, appear and vanish along with what they lie in.
+void Control::tellPlace() {
+  if (peer_) peer_->changed(Aspect::Place);
+  if (container_) input().tellPlaceInside(*this);
 }
 
 bool Control::hasFocus() const {
@@ -127,11 +137,14 @@ Platform& Control::platform() const { return root().site().platform(); }
 void Control::realise() {
   if (peer_) return;
   peer_ = platform().realise(*this);
-  if (peer_) realised();
+  if (!peer_) return;
+  if (container_) input().remember(*this);
+  realised();
 }
 
 void Control::dropPeer() {
   if (!peer_) return;
+  if (container_) input().forgetPeer(*this);
   peer_.reset();
   invalidate();
 }
@@ -146,6 +159,7 @@ Rect Control::onSurface() const {
 }
 
 Rect Control::visibleOnSurface() const {
+  if (!visible_) return {};
   if (!container_) return onSurface();
   const Rect outer = container_->visibleOnSurface();
   return onSurface().intersected(outer);

@@ -86,7 +86,8 @@ class Control : public Object {
   void realise();
   void dropPeer();
 
-  /// The whole of the control, and what can be seen of it, in logical pixels of the surface.
+  /// The whole of the control, and what can be seen of it, in logical pixels of the surface. Of a control
+  /// that is hidden, or lies in a hidden one, nothing can be seen.
   Rect onSurface() const;
   Rect visibleOnSurface() const;
   /// Every control up to the surface is visible.
@@ -103,6 +104,8 @@ class Control : public Object {
   /// Where the focus goes that is given to this control.
   virtual Control* focusTarget() { return acceptsFocus() ? this : nullptr; }
   virtual std::intptr_t windowMessage(const Message& message);
+  /// The user control that holds this one has another font.
+  virtual void fontChanged() {}
 
  protected:
   friend class ContainerControl;
@@ -110,6 +113,8 @@ class Control : public Object {
   friend class Input;
   friend struct LifeCycle;
 
+  /// The control has just got its container.
+  virtual void placed() {}
   virtual void moved(const Rect& /*before*/) {}
   virtual void visibilityChanged() {}
   /// The native widget has just been made.
@@ -148,6 +153,8 @@ class Control : public Object {
 
   struct Rare;  // what few controls have
   Rare& rare();
+  bool enabledUpToSurface() const;
+  void tellPlace();
 
   std::string name_;
   UserControl* parent_ = nullptr;

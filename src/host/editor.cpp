@@ -8,8 +8,20 @@ const FontPtr& Editor::Font() const { return font_ ? font_ : Parent()->font(); }
 
 void Editor::SetFont(FontPtr font) {
   font_ = std::move(font);
-  fontChanged();
+  forgetMeasures();
   touched(Aspect::Look);
+}
+
+void Editor::fontChanged() {
+  if (font_) return;
+  forgetMeasures();
+  touched(Aspect::Look);
+}
+
+double Editor::measured(std::string_view text) const {
+  const UserControl& holder = *Parent();
+  FontMetrics& metrics = font_ ? platform().metrics(*font_) : holder.fontMetrics();
+  return metrics.advance(text) / holder.pixelsPerUnit().x;
 }
 
 void Editor::paint(Surface& surface, Size) { platform().paintControl(surface, *this); }

@@ -26,13 +26,17 @@ class Editor : public Control {
   bool acceptsFocus() const override { return Enabled() && Visible(); }
 
   void paint(Surface& surface, Size size) override;
+  void fontChanged() override;
 
   /// Grey when the editor can't be used.
   Color textColor() const { return Enabled() ? foreColor_ : kGrayText; }
 
  protected:
   explicit Editor(Color backColor = kWindowBackground) : backColor_(backColor) {}
-  virtual void fontChanged() {}
+  /// In the editor's font and the holder's scale units.
+  double measured(std::string_view text) const;
+  /// What was measured in the font before is worth nothing now.
+  virtual void forgetMeasures() {}
 
  private:
   FontPtr font_;

@@ -8,18 +8,17 @@
 namespace qrn::host {
 namespace {
 
-// The control itself and those around it, the outermost first; the surface itself stays out.
-std::vector<WeakRef<Control>> chainTo(Control* control, const Control& root) {
-  std::vector<WeakRef<Control>> chain;
-  for (; control && control != &root; control = control->Container()) chain.emplace_back(control);
-  std::reverse(chain.begin(), chain.end());
-  return chain;
+bool isInside(const Control* control, const Control& outer) {
+  while (control && control != &outer) control = control->Container();
+  return control != nullptr;
 }
 
-std::size_t commonLength(const std::vector<WeakRef<Control>>& a, const std::vector<WeakRef<Control>>& b) {
-  std::size_t i = 0;
-  while (i < a.size() && i < b.size() && a[i].get() == b[i].get()) ++i;
-  return i;
+// The control itself and those around it, the outermost first; the surface itself stays out.
+std::vector<Control*> chainTo(Control* control, const Control& root) {
+  std::vector<Control*> chain;
+  for (; control && control != &root; control = control->Container()) chain.push_back(control);
+  std::reverse(chain.begin(), chain.end());
+  return chain;
 }
 
 UserControl* asUserControl(Control* control) { return dynamic_cast<UserControl*>(control); }
@@ -38,31 +37,41 @@ Control* Input::hit(Point at) const {
 }
 
 void Input::setFocus(Control* control) {
-  if (control == focus_) return;
-  Control* const old = focus_;
-  const auto leaving = chainTo(old, *root_), entering = chainTo(control, *root_);
-  const std::size_t common = commonLength(leaving, entering);
-  const WeakRef<Control> target(control), previous(old), root(root_);
+  if (control == focus_ && (control || told_.empty())) return;
+  const WeakRef<Control> previous(focus_), root(root_);
   focus_ = control;
   if (control) lastFocus_ = WeakRef<Control>(control);
-
-  for (std::size_t i = leaving.size(); i-- > common;) {
-    if (!leaving[i]) continue;
-    Control& lost = *leaving[i];
-    lost.lostFocus();
-    if (!root) return;
-    if (leaving[i] && !asUserControl(&lost) && lost.Parent()) lost.Parent()->childLostFocus(lost);
-    if (!root) return;
-  }
+  if (!tellLost()) return;
   settlePeers(previous.get());
-  // A listener may have sent the focus elsewhere meanwhile; then that is what counts.
-  for (std::size_t i = common; i < entering.size() && target && focus_ == target.get(); ++i) {
-    if (!entering[i]) continue;
-    Control& got = *entering[i];
-    got.gotFocus();
-    if (!root) return;
-    if (entering[i] && !asUserControl(&got) && got.Parent()) got.Parent()->childGotFocus(got);
-    if (!root) return;
+  tellGot();
+}
+
+// Each step looks at the focus anew: a listener may have sent it elsewhere, and by then told whom it had to.
+bool Input::tellLost() {
+  const WeakRef<Control> root(root_);
+  while (!told_.empty() && !(told_.back() && isInside(focus_, *told_.back()))) {
+    const WeakRef<Control> lost = told_.back();
+    told_.pop_back();
+    if (!lost) continue;
+    lost->lostFocus();
+    if (!root) return false;
+    if (lost && !asUserControl(lost.get()) && lost->Parent()) lost->Parent()->childLostFocus(*lost);
+    if (!root) return false;
+  }
+  return true;
+}
+
+bool Input::tellGot() {
+  const WeakRef<Control> root(root_);
+  while (true) {
+    const std::vector<Control*> chain = chainTo(focus_, *root_);
+    if (told_.size() >= chain.size()) return true;
+    const WeakRef<Control> got(chain[told_.size()]);
+    told_.push_back(got);
+    got->gotFocus();
+    if (!root) return false;
+    if (got && !asUserControl(got.get()) && got->Parent()) got->Parent()->childGotFocus(*got);
+    if (!root) return false;
   }
 }
 
@@ -89,6 +98,7 @@ void Input::surfaceGotFocus() {
 void Input::surfaceLostFocus() { setFocus(nullptr); }
 
 Control* Input::mouseDown(MouseButton button, std::int16_t shiftState, Point at) {
+  if (!root_->Enabled()) return nullptr;
   const WeakRef<Control> root(root_);
   Control* target = hit(at);
   capture_ = target;
@@ -111,6 +121,7 @@ Control* Input::mouseDown(MouseButton button, std::int16_t shiftState, Point at)
 }
 
 void Input::mouseMove(std::int16_t buttons, std::int16_t shiftState, Point at) {
+  if (!root_->Enabled() && !capture_) return;
   Control* target = capture_ ? capture_ : hit(at);
   const Point local = target->fromSurface(at);
   if (auto* user = asUserControl(target))
@@ -120,6 +131,7 @@ void Input::mouseMove(std::int16_t buttons, std::int16_t shiftState, Point at) {
 }
 
 void Input::mouseUp(MouseButton button, std::int16_t shiftState, Point at) {
+  if (!root_->Enabled() && !capture_) return;
   Control* target = capture_ ? capture_ : hit(at);
   capture_ = nullptr;
   const Point local = target->fromSurface(at);
@@ -130,6 +142,7 @@ void Input::mouseUp(MouseButton button, std::int16_t shiftState, Point at) {
 }
 
 void Input::doubleClick(Point at) {
+  if (!root_->Enabled()) return;
   Control* target = hit(at);
   const Point local = target->fromSurface(at);
   if (auto* user = asUserControl(target))
@@ -139,9 +152,10 @@ void Input::doubleClick(Point at) {
 }
 
 bool Input::wheel(Point at, double notches) {
-  for (Control* target = hit(at); target; target = target->Container()) {
-    auto* user = asUserControl(target);
+  for (WeakRef<Control> target(hit(at)); target; target = WeakRef<Control>(target->Container())) {
+    auto* user = asUserControl(target.get());
     if (user && user->wheel(notches)) return true;
+    if (!target) return true;
   }
   return false;
 }
@@ -180,8 +194,17 @@ std::int16_t Input::keyPress(std::int16_t keyAscii) {
 }
 
 void Input::forget(const Control& control) {
-  if (focus_ == &control) focus_ = nullptr;
-  if (capture_ == &control) capture_ = nullptr;
+  if (isInside(focus_, control)) focus_ = nullptr;
+  if (isInside(capture_, control)) capture_ = nullptr;
+  std::erase_if(peers_, [&](const Control* one) { return isInside(one, control); });
+}
+
+void Input::tellPlaceInside(const Control& moved) {
+  // By index: a widget may go while it is told.
+  for (std::size_t i = 0; i < peers_.size(); ++i) {
+    Control& control = *peers_[i];
+    if (&control != &moved && isInside(&control, moved)) control.peer()->changed(Aspect::Place);
+  }
 }
 
 }  // namespace qrn::host

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "base/geometry.h"
 #include "base/weak_ref.h"
@@ -72,19 +73,30 @@ class Input {
   /// Answers the character that remains, 0 for none; a listener may have replaced it.
   std::int16_t keyPress(std::int16_t keyAscii);
 
-  /// The deepest visible control at a point.
+  /// The deepest visible and enabled control at a point.
   Control* hit(Point at) const;
 
   /// A control is about to go.
   void forget(const Control& control);
 
+  /// The controls inside the surface that have a native widget; a handful at most.
+  void remember(Control& withPeer) { peers_.push_back(&withPeer); }
+  void forgetPeer(const Control& control) { std::erase(peers_, &control); }
+  void tellPlaceInside(const Control& moved);
+
  private:
+  bool tellLost();
+  bool tellGot();
   void settlePeers(Control* old);
 
   UserControl* root_;
   Control* focus_ = nullptr;
   Control* capture_ = nullptr;
   WeakRef<Control> lastFocus_;
+  // Those who have been told that they got the focus and not that they lost it, the outermost first. While
+  // listeners run it may lag behind focus_; it also survives the end of the focused control.
+  std::vector<WeakRef<Control>> told_;
+  std::vector<Control*> peers_;
 };
 
 }  // namespace qrn::host

@@ -23,7 +23,7 @@ class Label final : public Control {
 
   /// The width of the caption in the holder's scale units. Measured once for each text and font.
   double textWidth() const;
-  void fontChanged();
+  void fontChanged() override;
 
   void paint(Surface& surface, Size size) override;
 

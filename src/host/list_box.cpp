@@ -12,7 +12,7 @@ void ListBox::SetSelected(std::int32_t index, bool selected) {
 }
 
 void ListBox::userMovedTo(std::int32_t index) {
-  if (index < -1 || index >= ListCount()) return;
+  if (!Enabled() || index < -1 || index >= ListCount()) return;
   listIndex_ = index;
   if (!peer()) invalidate();
 }

@@ -53,7 +53,7 @@ void ListEditor::SetListIndex(std::int32_t index) {
 double ListEditor::widestText() const {
   if (widest_ != kUnknown) return widest_;
   widest_ = 0;
-  for (const Entry& one : entries_) widest_ = std::max(widest_, Parent()->TextWidth(one.text));
+  for (const Entry& one : entries_) widest_ = std::max(widest_, measured(one.text));
   return widest_;
 }
 

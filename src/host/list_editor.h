@@ -42,7 +42,7 @@ class ListEditor : public Editor {
 
   const Entry& entry(std::int32_t index) const;
   Entry& entry(std::int32_t index) { return const_cast<Entry&>(std::as_const(*this).entry(index)); }
-  void fontChanged() override { widest_ = kUnknown; }
+  void forgetMeasures() override { widest_ = kUnknown; }
 
   std::vector<Entry> entries_;
   std::int32_t listIndex_ = -1;

@@ -7,8 +7,8 @@ namespace qrn::host {
 void PictureBox::scrollTo(double offset) {
   if (offset == scrolledBy_) return;
   scrolledBy_ = offset;
-  // The one editor with a native widget moves along; it is never hidden, which would cost it the focus.
-  if (Control* focus = input().focus(); focus && focus->peer()) focus->peer()->changed(Aspect::Place);
+  // An editor with a native widget moves along; it is never hidden, which would cost it the focus.
+  input().tellPlaceInside(*this);
   invalidate();
 }
 

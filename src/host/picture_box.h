@@ -9,8 +9,9 @@ class PictureBox final : public ContainerControl {
  public:
   std::string_view typeName() const override { return "PictureBox"; }
 
-  double ScaleWidth() const { return Width(); }
-  double ScaleHeight() const { return Height(); }
+  // The inside is measured in pixels.
+  double ScaleWidth() const { return pixelSize().width; }
+  double ScaleHeight() const { return pixelSize().height; }
 
   /// Pixels by which the inside is moved up.
   double scrolledBy() const { return scrolledBy_; }

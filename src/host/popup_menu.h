@@ -45,7 +45,7 @@ class PopupMenu {
   void unload(int index);
   /// Entries that are loaded.
   int count() const;
-  /// One more than the highest index ever loaded.
+  /// One more than the highest index that is loaded.
   int size() const { return static_cast<int>(entries_.size()); }
 
   /// Shows the menu until it is closed; the chosen entry.

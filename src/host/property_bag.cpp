@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 #include "base/text.h"
@@ -32,11 +33,24 @@ std::string inQuotes(std::string_view text) {
   return result + '"';
 }
 
+// A key that is no plain word is quoted like a text.
+std::string writtenKey(std::string_view key) {
+  const bool plain = !key.empty() && key.find_first_of(" \t\r\n=\"") == std::string_view::npos;
+  return plain ? std::string(key) : inQuotes(key);
+}
+
 // The shortest text that reads back as the same number.
 std::string exact(double number) {
   char buffer[40];
   const auto end = std::to_chars(buffer, buffer + sizeof buffer, number).ptr;
   return {buffer, end};
+}
+
+// Not by the conversions: a bag reads the same wherever it is opened.
+std::string exact(Currency amount) {
+  const bool negative = amount.tenThousandths < 0;
+  const std::string count = std::to_string(amount.tenThousandths);
+  return Decimal::fromDigits(negative, std::string_view(count).substr(negative ? 1 : 0), -4).toText();
 }
 
 std::string written(const Font& font) {
@@ -63,6 +77,8 @@ std::string written(const Variant& value) {
     case Variant::Type::Object: return writtenObject(*value.get<ObjectPtr>());
     case Variant::Type::Single: return "Single " + exact(static_cast<double>(*value.get<float>()));
     case Variant::Type::Double: return "Double " + exact(*value.get<double>());
+    case Variant::Type::Currency: return "Currency " + exact(*value.get<Currency>());
+    case Variant::Type::Decimal: return "Decimal " + value.get<Decimal>()->toText();
     case Variant::Type::Date: return "Date " + exact(value.get<Date>()->serial);
     case Variant::Type::Error: return "Error " + std::to_string(value.get<ErrorValue>()->number);
     default: return std::string(typeName(value.type())) + ' ' + CStr(value);
@@ -82,13 +98,9 @@ class LineReader {
                       std::string(file_) + ":" + std::to_string(number_) + ": " + what);
   }
 
-  std::string_view word() {
-    skipBlanks();
-    const auto end = std::min(rest_.find_first_of(" \t="), rest_.size());
-    const std::string_view result = rest_.substr(0, end);
-    rest_.remove_prefix(end);
-    return result;
-  }
+  std::string_view word() { return upTo(" \t="); }
+  /// A part of a value, which may well hold an equals sign.
+  std::string_view part() { return upTo(" \t"); }
 
   void expect(char wanted) {
     skipBlanks();
@@ -113,14 +125,17 @@ class LineReader {
   }
 
   template <class Number>
-  Number number(std::string_view what) {
-    const std::string_view text = word();
+  Number number(
+      std::string_view what, bool (*fits)(Number) = [](Number) { return true; }) {
+    const std::string_view text = part();
     Number value{};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size()) {
-      refuse("\"" + std::string(text) + "\" is no " + std::string(what));
-    }
+    if (error != std::errc() || end != text.data() + text.size() || !fits(value)) refuseAs(text, what);
     return value;
+  }
+
+  [[noreturn]] void refuseAs(std::string_view text, std::string_view what) const {
+    refuse("\"" + std::string(text) + "\" is no " + std::string(what));
   }
 
   void expectEnd() {
@@ -129,6 +144,14 @@ class LineReader {
   }
 
  private:
+  std::string_view upTo(std::string_view ends) {
+    skipBlanks();
+    const auto end = std::min(rest_.find_first_of(ends), rest_.size());
+    const std::string_view result = rest_.substr(0, end);
+    rest_.remove_prefix(end);
+    return result;
+  }
+
   void skipBlanks() { rest_.remove_prefix(std::min(rest_.find_first_not_of(" \t"), rest_.size())); }
 
   char take() {
@@ -157,8 +180,9 @@ class LineReader {
 Variant readFont(LineReader& line) {
   auto font = std::make_shared<Font>();
   font->family = line.quotedText();
-  font->size = line.number<double>("font size");
-  for (std::string_view style = line.word(); !style.empty(); style = line.word()) {
+  constexpr auto isFontSize = [](double points) { return points > 0 && points <= 10'000; };
+  font->size = line.number<double>("font size", isFontSize);
+  for (std::string_view style = line.part(); !style.empty(); style = line.part()) {
     if (style == "bold")
       font->bold = true;
     else if (style == "italic")
@@ -175,21 +199,32 @@ Variant readFont(LineReader& line) {
 
 Variant readPicture(LineReader& line) {
   try {
-    return std::const_pointer_cast<Picture>(pictureFromText(line.word()));
+    return std::const_pointer_cast<Picture>(pictureFromText(line.part()));
   } catch (const RunTimeError& error) {
     line.refuse(error.description());
   }
 }
 
-// Currency and Decimal are written as plain digits, which the conversions read exactly.
+std::optional<Decimal> decimalFrom(std::string_view text) {
+  const bool negative = text.starts_with('-');
+  text.remove_prefix(negative ? 1 : 0);
+  const std::size_t point = std::min(text.find('.'), text.size());
+  const std::string_view decimals = text.substr(std::min(point + 1, text.size()));
+  const std::string digits = std::string(text.substr(0, point)) + std::string(decimals);
+  if (digits.empty() || digits.find_first_not_of("0123456789") != std::string::npos) return std::nullopt;
+  return Decimal::fromDigits(negative, digits, -static_cast<std::int64_t>(decimals.size()));
+}
+
+// Currency and Decimal stand there as plain digits with a point, whatever the locale.
 template <class Convert>
 Variant readExact(LineReader& line, std::string_view what, Convert convert) {
-  const std::string_view digits = line.word();
+  const std::string_view text = line.part();
   try {
-    return convert(Variant(digits));
+    if (const auto value = decimalFrom(text)) return convert(Variant(*value));
   } catch (const RunTimeError&) {
-    line.refuse("\"" + std::string(digits) + "\" is no " + std::string(what));
+    // Too large: refused like what is no number at all.
   }
+  line.refuseAs(text, what);
 }
 
 Variant readTyped(LineReader& line, std::string_view type) {
@@ -212,8 +247,9 @@ Variant readTyped(LineReader& line, std::string_view type) {
 
 PropertyBag::Item readItem(LineReader& line) {
   PropertyBag::Item item;
-  item.key = line.word();
-  if (item.key.empty()) line.refuse("expected a property's name");
+  const bool quoted = line.startsText();
+  item.key = quoted ? line.quotedText() : std::string(line.word());
+  if (item.key.empty() && !quoted) line.refuse("expected a property's name");
   line.expect('=');
   if (line.startsText())
     item.value = line.quotedText();
@@ -257,7 +293,7 @@ void PropertyBag::writeProperty(std::string_view key, const Variant& value, cons
 std::string PropertyBag::toText() const {
   std::string result(kHeader);
   result += '\n';
-  for (const Item& item : items_) result += item.key + " = " + written(item.value) + '\n';
+  for (const Item& item : items_) result += writtenKey(item.key) + " = " + written(item.value) + '\n';
   return result;
 }
 

@@ -13,7 +13,8 @@ namespace qrn::host {
 ///
 /// The text form has one property a line: `Name = value`, where a value is True, False, Empty, Null, a
 /// "quoted text" with \" \\ \n \r \t, or a type and its value (`Long 100`, `Double 0.5`, `Font "Sans" 9
-/// bold`, `Picture …`).
+/// bold`, `Picture …`). A name that is no plain word is quoted like a text. Numbers are written the same way
+/// in every locale.
 class PropertyBag {
  public:
   struct Item {

@@ -4,23 +4,9 @@
 
 #include "base/text.h"
 #include "host/user_control.h"
+#include "runtime/letter_case.h"
 
 namespace qrn::host {
-namespace {
-
-std::string upperCased(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
-    char32_t c = text::next(text, at);
-    const bool latin = (c >= 'a' && c <= 'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7);
-    text::append(result, latin ? c - 32 : c);
-  }
-  return result;
-}
-
-}  // namespace
-
 void TextBox::store(std::string text) {
   text_ = std::move(text);
   textWidth_ = kUnknown;
@@ -36,14 +22,11 @@ void TextBox::SetText(std::string_view text) {
 void TextBox::SetPasswordChar(std::string_view character) {
   if (character == passwordChar_) return;
   passwordChar_ = character;
-  textWidth_ = kUnknown;
   touched(Aspect::Look);
 }
 
 void TextBox::select(std::int32_t start, std::int32_t length) {
-  const auto end = static_cast<std::int32_t>(text::length(text_));
-  selStart_ = std::clamp(start, 0, end);
-  selLength_ = std::clamp(length, 0, end - selStart_);
+  userSelected(start, length);
   touched(Aspect::Content);
 }
 
@@ -55,28 +38,27 @@ std::string TextBox::shownText() const {
 }
 
 double TextBox::textWidth() const {
-  if (textWidth_ == kUnknown) textWidth_ = Parent()->TextWidth(text_);
+  if (textWidth_ == kUnknown) textWidth_ = measured(text_);
   return textWidth_;
 }
 
 void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength) {
   std::string wanted(text);
-  if (upperCase_) wanted = upperCased(wanted);
+  if (upperCase_) wanted = qrn::upperCase(std::string_view(wanted));
   if (maxLength_ > 0) wanted = text::slice(wanted, 0, static_cast<std::size_t>(maxLength_));
   if (locked_) wanted = text_;
   const bool corrected = wanted != text;
   const bool changed = wanted != text_;
   if (changed) store(std::move(wanted));
-  const auto end = static_cast<std::int32_t>(text::length(text_));
-  selStart_ = std::clamp(selStart, 0, end);
-  selLength_ = std::clamp(selLength, 0, end - selStart_);
+  userSelected(selStart, selLength);
   if (corrected && peer()) peer()->changed(Aspect::Content);
   if (changed) Parent()->childChanged(*this);
 }
 
 void TextBox::userSelected(std::int32_t start, std::int32_t length) {
-  selStart_ = start;
-  selLength_ = length;
+  const auto end = static_cast<std::int32_t>(text::length(text_));
+  selStart_ = std::clamp(start, 0, end);
+  selLength_ = std::clamp(length, 0, end - selStart_);
 }
 
 std::intptr_t TextBox::windowMessage(const Message& message) {

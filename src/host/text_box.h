@@ -32,7 +32,8 @@ class TextBox final : public Editor {
 
   /// What a person sees in the box.
   std::string shownText() const;
-  /// The width of the shown text in the holder's scale units. Measured once for each text and font.
+  /// The width of the text itself, whatever a password shows of it, in the holder's scale units. Measured
+  /// once for each text and font.
   double textWidth() const;
 
   void userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength = 0);
@@ -41,7 +42,7 @@ class TextBox final : public Editor {
   std::intptr_t windowMessage(const Message& message) override;
 
  protected:
-  void fontChanged() override { textWidth_ = kUnknown; }
+  void forgetMeasures() override { textWidth_ = kUnknown; }
 
  private:
   void store(std::string text);

@@ -19,7 +19,7 @@ void Timer::SetEnabled(bool enabled) {
 }
 
 void Timer::start() {
-  if (!Enabled() || interval_ <= 0 || !Container()) return;
+  if (clock_ || !Enabled() || interval_ <= 0 || !Container()) return;
   clock_ = &platform().clock();
   id_ = clock_->start(std::chrono::milliseconds(interval_), [this] { raise(Tick, "Timer"); });
 }

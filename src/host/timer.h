@@ -20,6 +20,9 @@ class Timer final : public Control {
 
   Event<> Tick;
 
+ protected:
+  void placed() override { start(); }
+
  private:
   void start();
   void stop();

@@ -65,6 +65,9 @@ void UserControl::writeProperties(PropertyBag& bag) const { saveProperties(*this
 void UserControl::setFont(FontPtr font) {
   font_ = font ? std::move(font) : platform().defaultFont();
   metrics_ = nullptr;
+  for (Control* part : contained()) {
+    if (part->Parent() == this) part->fontChanged();
+  }
   invalidate();
 }
 
@@ -79,11 +82,11 @@ void UserControl::setForeColor(Color color) {
 }
 
 void UserControl::moved(const Rect& before) {
-  if (alive_ && before.size() != bounds().size()) resize();
+  if (running_ && before.size() != bounds().size()) resize();
 }
 
 void UserControl::visibilityChanged() {
-  if (!alive_) return;
+  if (!running_) return;
   if (Visible())
     show();
   else
@@ -104,6 +107,12 @@ void LifeCycle::start(UserControl& control, Site& site, const PropertyBag* bag) 
     control.readProperties(*bag);
   else
     control.initProperties();
+  enter(control);
+}
+
+// What a control did to its own size and visibility before counts now, and once.
+void LifeCycle::enter(UserControl& control) {
+  control.running_ = true;
   control.resize();
   if (control.Visible()) control.show();
 }
@@ -121,15 +130,14 @@ void LifeCycle::startChild(Control& control, UserControl& parent, std::string_vi
   user->initialize();
   container.contain(control, parent, name);
   user->initProperties();
-  user->resize();
-  if (user->Visible()) user->show();
+  enter(*user);
 }
 
 void LifeCycle::end(Control& control) {
   auto* user = dynamic_cast<UserControl*>(&control);
   if (!user) return;
   if (user->alive_) user->terminate();
-  user->alive_ = false;
+  user->alive_ = user->running_ = false;
   user->controls_->clear();
 }
 
@@ -146,7 +154,13 @@ Control& Controls::add(Owned<Control> control, std::string_view name, ContainerC
   if (list_.find(name) || ownPart(name)) raiseRunTimeError(kControlNameUsed, owner_.typeName());
   Control& added = *control;
   list_.add(std::string(name), std::move(control));
-  LifeCycle::startChild(added, owner_, name, container);
+  const WeakRef<Control> guard(&added);
+  try {
+    LifeCycle::startChild(added, owner_, name, container);
+  } catch (...) {
+    if (guard && find(name) == &added) remove(name);
+    throw;
+  }
   return added;
 }
 

@@ -114,7 +114,8 @@ class UserControl : public ContainerControl, public Site {
   Color backColor_ = kButtonFace;
   Color foreColor_ = kButtonText;
   std::int16_t scaleMode_ = 3;
-  bool alive_ = false;  // between initialize and terminate
+  bool alive_ = false;    // between initialize and terminate
+  bool running_ = false;  // from the first resize on
 
  protected:
   /// Raised by name only: what a container hears of the focus of its controls.
@@ -128,6 +129,9 @@ struct LifeCycle {
   static void startChild(Control& control, UserControl& parent, std::string_view name,
                          ContainerControl& container);
   static void end(Control& control);
+
+ private:
+  static void enter(UserControl& control);
 };
 
 /// Makes a control on a site, from a property bag or as a new instance.

@@ -7,16 +7,21 @@
 
 namespace qrn::host {
 
+// The maximum may lie below the minimum.
+std::int32_t VScrollBar::inRange(std::int32_t value) const {
+  return std::clamp(value, std::min(min_, max_), std::max(min_, max_));
+}
+
 void VScrollBar::SetMax(std::int32_t max) {
   if (max == max_) return;
   max_ = max;
-  value_ = std::clamp(value_, std::min(min_, max_), std::max(min_, max_));
+  value_ = inRange(value_);
   touched(Aspect::Range);
 }
 
 void VScrollBar::SetValue(std::int32_t value) {
   if (value == value_) return;
-  if (value < min_ || value > max_) raiseRunTimeError(kInvalidPropertyValue, typeName());
+  if (value != inRange(value)) raiseRunTimeError(kInvalidPropertyValue, typeName());
   value_ = value;
   touched(Aspect::Content);
 }
@@ -29,7 +34,7 @@ void VScrollBar::realiseWithSurface() {
 }
 
 void VScrollBar::userScrolled(std::int32_t value) {
-  value = std::clamp(value, min_, max_);
+  value = inRange(value);
   if (value == value_) return;
   value_ = value;
   if (!peer()) invalidate();

@@ -13,7 +13,7 @@ class VScrollBar final : public Control {
   std::int32_t Max() const { return max_; }
   void SetMax(std::int32_t max);
   std::int32_t Value() const { return value_; }
-  /// Errors: 380 outside Min to Max.
+  /// Errors: 380 outside the range between Min and Max.
   void SetValue(std::int32_t value);
   std::int32_t LargeChange() const { return largeChange_; }
   void SetLargeChange(std::int32_t change) { this->change(largeChange_, change, Aspect::Range); }
@@ -29,9 +29,14 @@ class VScrollBar final : public Control {
   void paint(Surface& surface, Size size) override;
 
  protected:
-  void visibilityChanged() override { realiseWithSurface(); }
+  void placed() override { realiseWithSurface(); }
+  void visibilityChanged() override {
+    if (Container()) realiseWithSurface();
+  }
 
  private:
+  std::int32_t inRange(std::int32_t value) const;
+
   std::int32_t min_ = 0;
   std::int32_t max_ = 32767;
   std::int32_t value_ = 0;

@@ -10,20 +10,19 @@ constexpr int kIndexBits = 20;
 constexpr std::uint32_t kIndexMask = (1u << kIndexBits) - 1;
 constexpr std::uint32_t kGenerationMask = 0x7FF;
 
-thread_local WindowTable* currentTable = nullptr;
+thread_local std::vector<WindowTable*> tables;
 
 }  // namespace
 
-WindowTable::WindowTable() : previous_(currentTable) { currentTable = this; }
+WindowTable::WindowTable() { tables.push_back(this); }
 
-WindowTable::~WindowTable() {
-  if (currentTable == this) currentTable = previous_;
-}
+WindowTable::~WindowTable() { std::erase(tables, this); }
 
 WindowTable::Slot* WindowTable::find(host::WindowHandle window) {
   const auto bits = static_cast<std::uint32_t>(window);
   const std::uint32_t index = (bits & kIndexMask) - 1;
-  if (window <= 0 || index >= slots_.size()) return nullptr;
+  if (window <= 0 || static_cast<host::WindowHandle>(bits) != window || index >= slots_.size())
+    return nullptr;
   Slot& slot = slots_[index];
   return slot.owner && slot.generation == bits >> kIndexBits ? &slot : nullptr;
 }
@@ -39,7 +38,11 @@ host::WindowHandle WindowTable::create(host::WindowOwner& owner) {
   Slot& slot = slots_[index];
   slot.owner = &owner;
   slot.procedure = reinterpret_cast<std::intptr_t>(&ownProcedure);
-  return static_cast<host::WindowHandle>(slot.generation << kIndexBits | (index + 1));
+  return handleOf(index);
+}
+
+host::WindowHandle WindowTable::handleOf(std::uint32_t index) const {
+  return static_cast<host::WindowHandle>(slots_[index].generation << kIndexBits | (index + 1));
 }
 
 void WindowTable::destroy(host::WindowHandle window) {
@@ -75,12 +78,17 @@ std::intptr_t WindowTable::setLong(host::WindowHandle window, int index, std::in
 std::intptr_t WindowTable::callProcedure(std::intptr_t procedure, host::WindowHandle window,
                                          const host::Message& message) {
   if (procedure == 0) return 0;
+  if (procedure == reinterpret_cast<std::intptr_t>(&ownProcedure)) {
+    const Slot* slot = find(window);
+    return slot ? slot->owner->windowMessage(message) : 0;
+  }
   return reinterpret_cast<Procedure>(procedure)(window, message.number, message.wParam, message.lParam);
 }
 
+// For whoever calls the bare function: it can't know its table, so the last one of the thread answers.
 std::intptr_t WindowTable::ownProcedure(host::WindowHandle window, std::uint32_t number, std::intptr_t wParam,
                                         std::intptr_t lParam) {
-  Slot* slot = currentTable ? currentTable->find(window) : nullptr;
+  Slot* slot = tables.empty() ? nullptr : tables.back()->find(window);
   return slot ? slot->owner->windowMessage({number, wParam, lParam}) : 0;
 }
 
@@ -113,10 +121,10 @@ host::WindowHandle WindowTable::parent(host::WindowHandle window) {
 }
 
 host::WindowHandle WindowTable::findByTitle(std::string_view title) {
+  // By index: an owner that is asked for its parent may make windows.
   for (std::uint32_t i = 0; i < slots_.size(); ++i) {
-    const Slot& slot = slots_[i];
-    if (!slot.owner || slot.owner->windowTitle() != title || slot.owner->parentWindow() != 0) continue;
-    return static_cast<host::WindowHandle>(slot.generation << kIndexBits | (i + 1));
+    const host::WindowOwner* owner = slots_[i].owner;
+    if (owner && owner->windowTitle() == title && owner->parentWindow() == 0) return handleOf(i);
   }
   return 0;
 }

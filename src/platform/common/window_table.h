@@ -58,12 +58,12 @@ class WindowTable : public host::Windows {
   static std::intptr_t ownProcedure(host::WindowHandle window, std::uint32_t number, std::intptr_t wParam,
                                     std::intptr_t lParam);
   Slot* find(host::WindowHandle window);
+  host::WindowHandle handleOf(std::uint32_t index) const;
   std::intptr_t* longOf(Slot& slot, int index);
 
   std::vector<Slot> slots_;
   std::vector<std::uint32_t> free_;
   std::deque<std::pair<host::WindowHandle, host::Message>> posted_;
-  WindowTable* previous_;
 };
 
 }  // namespace qrn

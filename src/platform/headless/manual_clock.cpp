@@ -22,7 +22,8 @@ void ManualClock::advance(std::chrono::milliseconds by) {
     const auto tick = next->second.tick;
     tick();
   }
-  now_ = end;
+  // A tick may have advanced the time itself, and further.
+  now_ = std::max(now_, end);
 }
 
 }  // namespace qrn::headless

@@ -48,7 +48,7 @@ void edit(host::TextBox& box, std::string_view insert, int before, int after) {
   result += insert;
   result += text::slice(text, to);
   if (box.MaxLength() > 0 && text::length(result) > static_cast<std::size_t>(box.MaxLength())) return;
-  if (box.Locked()) return;
+  if (box.Locked() || !box.Enabled()) return;
   box.userTyped(result, static_cast<std::int32_t>(from + text::length(insert)));
 }
 
@@ -90,13 +90,15 @@ void User::clicks(host::Control& control, host::MouseButton button) {
 }
 
 void User::doubleClicks(host::Control& control) {
+  const WeakRef<host::Control> target(&control);
   clicks(control);
-  input().doubleClick(middleOf(control));
+  if (target) input().doubleClick(middleOf(control));
 }
 
 void User::clicksAt(Point at, host::MouseButton button) {
+  const WeakRef<host::Control> surface(&surface_);
   pressesAt(at, button);
-  releasesAt(at, button);
+  if (surface) releasesAt(at, button);
 }
 
 void User::pressesAt(Point at, host::MouseButton button) {
@@ -123,7 +125,8 @@ void User::turnsWheel(Point at, double notches) {
 }
 
 void User::types(std::string_view text) {
-  for (std::size_t at = 0; at < text.size();) typeCharacter(text::next(text, at));
+  const WeakRef<host::Control> surface(&surface_);
+  for (std::size_t at = 0; surface && at < text.size();) typeCharacter(text::next(text, at));
 }
 
 void User::typeCharacter(char32_t character) {
@@ -182,7 +185,9 @@ void User::keyInto(host::Control& editor, std::int16_t keyCode, std::int16_t shi
 }
 
 void User::enters(std::string_view text) {
+  const WeakRef<host::Control> surface(&surface_);
   presses('A', host::shift::Control);
+  if (!surface) return;
   if (text.empty())
     presses(host::key::Delete);
   else
@@ -190,13 +195,15 @@ void User::enters(std::string_view text) {
 }
 
 void User::chooses(host::Control& combo, std::int32_t entry) {
+  const WeakRef<host::Control> target(&combo);
   clicks(combo);
-  if (auto* list = dynamic_cast<host::ComboBox*>(&combo)) list->userSelected(entry);
+  if (auto* list = dynamic_cast<host::ComboBox*>(target.get())) list->userSelected(entry);
 }
 
 void User::ticks(host::Control& list, std::int16_t entry) {
+  const WeakRef<host::Control> target(&list);
   clicks(list);
-  auto* box = dynamic_cast<host::ListBox*>(&list);
+  auto* box = dynamic_cast<host::ListBox*>(target.get());
   if (!box) return;
   box->userMovedTo(entry);
   box->userChecked(entry);
