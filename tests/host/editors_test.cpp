@@ -314,6 +314,21 @@ TEST_F(ScrollBars, HaveANativeWidgetWhereverTheSurfaceHasOneAndTheyAreVisible) {
   EXPECT_TRUE(surface().add<host::VScrollBar>("later").peer()) << "one that comes later gets its own";
 }
 
+TEST_F(ScrollBars, GetTheirWidgetWhenWhatTheyLieInIsPutOnASurfaceThatHasOne) {
+  // A page is built, with its scroll bar, before it has a place.
+  struct Page : TestControl {
+    using TestControl::TestControl;
+    void initialize() override { contain(bar, *this, "bar"); }
+    host::VScrollBar bar;
+  };
+  surface().realise();
+  auto* page = new Page(diary, "page");
+  surface().controls().add(host::Owned<host::Control>(page), "page", surface());
+  EXPECT_TRUE(page->bar.peer());
+  surface().controls().remove("page");
+  EXPECT_EQ(platform.peers(), 1);
+}
+
 TEST_F(ScrollBars, AreToldOfTheirPlaceWhenWhatTheyLieInMovesOrHides) {
   surface().realise();
   auto& page = surface().addControl("page", {0, 0, 100, 100});
