@@ -1,4 +1,5 @@
 #include "row_fixture.h"
+#include "values/QRNArray.h"
 #include "values/clsQRNArray.h"
 
 namespace qrn::test {
@@ -95,6 +96,15 @@ TEST(AnArray, ConvertsNothingByItsType) {
   array.SetValue(0, Variant("text"));
   EXPECT_EQ(array.ArrayType(), qrnTypeLong);
   EXPECT_EQ(array.Value(0), Variant("text"));
+}
+
+TEST(TheArrayControl, HasNoParts) {
+  headless::HeadlessPlatform platform;
+  headless::HeadlessSite site(platform);
+  const auto control = host::create<QRNArray>(site);
+  EXPECT_EQ(control->FlexGrid(), nullptr);
+  EXPECT_EQ(control->TextBox(), nullptr);
+  EXPECT_TRUE(control->contained().empty());
 }
 
 // ---- in a row ----

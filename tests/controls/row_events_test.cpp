@@ -531,17 +531,19 @@ const Upset kUpsets[] = {
 };
 
 /// What a listener does to the row when it first hears of a certain event, and what the user does to raise
-/// it.
-class AListenerThat : public PanelTest, public ::testing::WithParamInterface<Upset> {
+/// What a listener does to the row when it first hears of a certain event, with and without native widgets.
+class AListenerThat : public PanelTest, public ::testing::WithParamInterface<std::tuple<Upset, bool>> {
  protected:
   void expectToSurvive(qrnValueType type, std::string_view event, const std::function<void()>& act) {
+    const auto& [upset, withWidgets] = GetParam();
+    if (withWidgets) panel().realise();
     addParameter("first", type);
     addParameter("second");
     panel().LayoutControls(true);
     bool heard = false;
-    const auto connection =
-        row(1).ObjectEvent.connect([&, first = &row(1)](std::string_view name, host::EventArgs) {
-          if (name == event && !std::exchange(heard, true)) GetParam().action(items(), *first);
+    const auto connection = row(1).ObjectEvent.connect(
+        [&, first = &row(1), upset = &upset](std::string_view name, host::EventArgs) {
+          if (name == event && !std::exchange(heard, true)) upset->action(items(), *first);
         });
     act();
     EXPECT_TRUE(heard);
@@ -666,8 +668,13 @@ TEST_P(AListenerThat, HearsOfATakenValue) {
   });
 }
 
-INSTANTIATE_TEST_SUITE_P(Row, AListenerThat, ::testing::ValuesIn(kUpsets),
-                         [](const auto& upset) { return std::string(upset.param.name); });
+std::string nameOf(const ::testing::TestParamInfo<std::tuple<Upset, bool>>& test) {
+  const auto& [upset, withWidgets] = test.param;
+  return std::string(upset.name) + (withWidgets ? "WithWidgets" : "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Row, AListenerThat,
+                         ::testing::Combine(::testing::ValuesIn(kUpsets), ::testing::Bool()), nameOf);
 
 TEST_F(RowEvents, MayDestroyARowThatStandsAlone) {
   const auto change = row().Change.connect([&] { row_.reset(); });
