@@ -1,12 +1,29 @@
 #include "platform/qt/qt_combo_box_peer.h"
 
 #include <QKeyEvent>
+#include <QStylePainter>
 #include <QWheelEvent>
 
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_locked_combo.h"
 #include "platform/qt/qt_text.h"
 
 namespace qrn::qt {
+
+void LockableComboBox::setLocked(bool locked) {
+  locked_ = locked;
+  update();
+}
+
+void LockableComboBox::paintEvent(QPaintEvent* event) {
+  if (!locked_) return QComboBox::paintEvent(event);
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  drawLockedComboFrame(painter, option);
+  painter.setPen(palette().color(QPalette::Text));
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
 
 void LockableComboBox::showPopup() {
   if (!locked_) QComboBox::showPopup();
@@ -41,6 +58,7 @@ void QtComboBoxPeer::applyContent() { widget_.setCurrentIndex(box_.ListIndex());
 void QtComboBoxPeer::applyEnabled() {
   QtEditorPeer::applyEnabled();
   widget_.setLocked(box_.Locked());
+  applyLook();  // the colours of a locked one are others
 }
 
 void QtComboBoxPeer::applyEntries() {

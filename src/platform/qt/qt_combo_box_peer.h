@@ -7,14 +7,15 @@
 
 namespace qrn::qt {
 
-/// A drop list that can be locked: then it looks as ever, but neither opens nor changes.
+/// A drop list that can be locked: then it looks like a text to read, and neither opens nor changes.
 class LockableComboBox final : public QComboBox {
  public:
   using QComboBox::QComboBox;
-  void setLocked(bool locked) { locked_ = locked; }
+  void setLocked(bool locked);
   void showPopup() override;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 

@@ -17,6 +17,7 @@
 #include "platform/qt/qt_color.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_list_item.h"
+#include "platform/qt/qt_locked_combo.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_surface.h"
 #include "platform/qt/qt_text.h"
@@ -189,9 +190,11 @@ void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const ho
   option.frame = true;
   option.subControls = QStyle::SC_All;
   option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_SmallIconSize, &option);
-  paintFrame(painter, place, box, 'o', box.Enabled() ? 1 : 0, [&](QPainter& into, const QRect& at) {
+  const int state = (box.Enabled() ? 1 : 0) | (box.Locked() ? 2 : 0);
+  paintFrame(painter, place, box, 'o', state, [&](QPainter& into, const QRect& at) {
     QStyleOptionComboBox frame = option;
     frame.rect = at;
+    if (box.Locked()) return drawLockedComboFrame(into, frame);
     style().drawComplexControl(QStyle::CC_ComboBox, &frame, &into);
   });
   option.currentText = toQString(box.Text());

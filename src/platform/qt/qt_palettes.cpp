@@ -21,8 +21,9 @@ host::Color backgroundOf(const host::Editor& editor, QPalette::ColorRole role, c
 }  // namespace
 
 const QPalette& QtPalettes::of(const host::Editor& editor) {
-  const QPalette::ColorRole role =
-      dynamic_cast<const host::ComboBox*>(&editor) ? QPalette::Button : QPalette::Base;
+  const auto* combo = dynamic_cast<const host::ComboBox*>(&editor);
+  // A locked drop list has nothing to press and looks like a text.
+  const QPalette::ColorRole role = combo && !combo->Locked() ? QPalette::Button : QPalette::Base;
   const host::Color back = backgroundOf(editor, role, platform_);
   const host::Color wish = platform_.resolve(editor.textColor());
   const host::Color text = editor.Enabled() ? host::readableOn(wish, back) : wish;
