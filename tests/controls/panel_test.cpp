@@ -14,8 +14,6 @@ namespace {
 // The title bar of the fixture's panel is 22 high: a line of 13 and 9 around it.
 class Panel : public PanelTest {
  protected:
-  Panel() { site.ambientProperties.font = platform.defaultFont(); }
-
   using Keys = std::vector<std::string>;
   Keys changedKeys() { return std::exchange(site.changedKeys, {}); }
   static std::vector<std::string> keysOf(const host::PropertyBag& bag) {
