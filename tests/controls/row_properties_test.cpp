@@ -370,7 +370,7 @@ TEST_F(ARow, ComesBackFromABagAsItWasSaved) {
   row().SetScaleMode(1);
   row().SetValueText("7");
   const host::PropertyBag first = saved();
-  useBag(first);
+  useBag(host::PropertyBag::fromText(first.toText()));
   EXPECT_EQ(saved().toText(), first.toText());
   EXPECT_EQ(row().ValueText(), "7.0");
 }
