@@ -11,8 +11,6 @@ struct QRNDisplayTable {
   using C = QRNDisplay;
 
   static Default number(std::int32_t value) { return Variant(value); }
-  // Spacings and heights are kept as 16-bit integers.
-  static Default shortNumber(std::int16_t value) { return Variant(value); }
   static Default flag(bool value) { return Variant(value); }
   static Default text(const char* value) { return Variant(value); }
 

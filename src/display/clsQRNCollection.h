@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "base/keyed_list.h"
 #include "display/clsHiddenRef.h"
 #include "display/clsQRNAction.h"
 #include "display/clsQRNParam.h"
 #include "enums/enumerations.h"
+#include "runtime/keyed_list.h"
 
 namespace qrn {
 

@@ -5,6 +5,7 @@
 #include "host/prog_ids.h"
 #include "images/QRNImageList.h"
 #include "row/QRNEdit.h"
+#include "values/QRNArray.h"
 #include "values/QRNBitList.h"
 #include "values/QRNCheck.h"
 #include "values/QRNDropList.h"
@@ -21,7 +22,7 @@ constexpr host::ProgId kClasses[] = {
     {"QRNV16Controls2.QRNEdit", make<QRNEdit>},       {"QRNV16Controls2.QRNMenuItem", make<QRNMenuItem>},
     {"QRNV16Controls2.QRNDisplay", make<QRNDisplay>}, {"QRNV16Controls2.QRNImageList", make<QRNImageList>},
     {"QRNV16Controls2.QRNCheck", make<QRNCheck>},     {"QRNV16Controls2.QRNDropList", make<QRNDropList>},
-    {"QRNV16Controls2.QRNBitList", make<QRNBitList>},
+    {"QRNV16Controls2.QRNBitList", make<QRNBitList>}, {"QRNV16Controls2.QRNArray", make<QRNArray>},
 };
 
 }  // namespace

@@ -5,10 +5,10 @@
 #include <string_view>
 
 #include "base/event.h"
-#include "base/keyed_list.h"
 #include "base/weak_ref.h"
 #include "host/event_args.h"
 #include "host/user_control.h"
+#include "runtime/keyed_list.h"
 #include "runtime/variant.h"
 
 namespace qrn {

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "base/keyed_list.h"
 #include "host/control.h"
+#include "runtime/keyed_list.h"
 
 namespace qrn::host {
 

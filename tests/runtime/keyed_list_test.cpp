@@ -1,4 +1,4 @@
-#include "base/keyed_list.h"
+#include "runtime/keyed_list.h"
 
 #include <gtest/gtest.h>
 
