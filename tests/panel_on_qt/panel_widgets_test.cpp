@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
 #include <QTest>
 #include <QWidget>
@@ -106,6 +107,18 @@ TEST_F(PanelOnQt, GoesOnToTheNextRowWithTabAndBringsItIntoView) {
   EXPECT_TRUE(row(41).hasFocus());
   EXPECT_FALSE(row(41).CurrentEditor()->visibleOnSurface().empty());
   EXPECT_EQ(widgets(), 2);
+}
+
+TEST_F(PanelOnQt, MarksTheCurrentEntryOfABitListThatGetsTheFocus) {
+  row(2).SetValueType(qrnTypeBitfield);
+  row(2).SetValueNames(0, "first");
+  row(2).SetValueNames(1, "second");
+  row(2).SetValue("01");
+  row(2).SetFocus();
+  const auto* list = only<QListWidget>();
+  ASSERT_NE(list, nullptr);
+  EXPECT_EQ(list->currentRow(), 0);
+  EXPECT_EQ(list->selectedItems().size(), 1);
 }
 
 TEST_F(PanelOnQt, LosesNoWidgetWhenTheFocusedRowIsRemoved) {

@@ -70,7 +70,8 @@ void QtListBoxPeer::applyEntries() {
 void QtListBoxPeer::applyContent() {
   for (int i = 0; i < box_.ListCount() && i < list_.count(); ++i)
     list_.item(i)->setCheckState(box_.Selected(i) ? Qt::Checked : Qt::Unchecked);
-  list_.setCurrentRow(box_.ListIndex());
+  // A view that gets the focus makes its first entry current by itself, but does not mark it.
+  list_.setCurrentRow(box_.ListIndex(), QItemSelectionModel::ClearAndSelect);
 }
 
 void QtListBoxPeer::reportTick(int row) {
