@@ -137,8 +137,9 @@ class ContractSurface final : public host::UserControl {
     noteKey("KeyUp", keyCode, shift);
   }
   bool wheel(double notches) override {
+    const bool used = usesWheel;
     note("Wheel " + std::to_string(static_cast<int>(notches)));
-    return usesWheel;
+    return used;
   }
   host::Control* nextTabStop(host::Control* from, bool forward) override {
     std::vector<host::Control*> stops{text, second, check, combo, list};
@@ -176,11 +177,13 @@ class ContractSurface final : public host::UserControl {
 
   void note(std::string what) {
     heard.push_back(what);
-    if (listener) listener(what);
+    // A copy: the surface itself may go inside.
+    if (const auto call = listener) call(what);
   }
   void noteKey(const char* what, std::int16_t& key, std::int16_t shift) {
-    if (notesKeys) note(std::string(what) + " " + std::to_string(key) + (shift ? "+" : ""));
+    const std::int16_t given = key;
     if (key == swallowed) key = 0;
+    if (notesKeys) note(std::string(what) + " " + std::to_string(given) + (shift ? "+" : ""));
   }
 };
 

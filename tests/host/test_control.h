@@ -44,7 +44,8 @@ std::string refusal(Action&& action) {
 struct Diary {
   void note(std::string what) {
     lines.push_back(what);
-    if (listener) listener(lines.back());
+    // A copy, as a listener may put another in its own place.
+    if (const auto call = listener) call(what);
   }
   Heard take() { return std::exchange(lines, {}); }
 
@@ -110,8 +111,9 @@ class TestControl : public host::UserControl {
   }
   void doubleClick(Point at) override { noteMouse(label_ + " DblClick", at); }
   bool wheel(double notches) override {
+    const bool used = usesWheel;
     if (notesMouse) diary_.note(label_ + " Wheel " + std::to_string(static_cast<int>(notches)));
-    return usesWheel;
+    return used;
   }
   void keyDown(std::int16_t& keyCode, std::int16_t& shift) override {
     noteKey(label_ + " KeyDown ", keyCode, shift);
@@ -186,8 +188,11 @@ class TestControl : public host::UserControl {
                 std::to_string(static_cast<int>(at.y)));
   }
   void noteKey(const std::string& what, std::int16_t& key, std::int16_t shift) {
-    if (notesKeys) diary_.note(what + std::to_string(key) + (shift != 0 ? "+" + std::to_string(shift) : ""));
+    // The control may not live any more once that is noted.
+    const std::int16_t given = key;
     if (key == swallowedKey) key = 0;
+    if (notesKeys)
+      diary_.note(what + std::to_string(given) + (shift != 0 ? "+" + std::to_string(shift) : ""));
   }
 
   Diary& diary_;
