@@ -18,6 +18,12 @@ CheckListWidget::CheckListWidget(QWidget* parent) : QListWidget(parent) {
   setEditTriggers(NoEditTriggers);
 }
 
+// A view that gets the focus makes its first entry current by itself, but does not mark it.
+void CheckListWidget::focusInEvent(QFocusEvent* event) {
+  QListWidget::focusInEvent(event);
+  setCurrentRow(currentRow(), QItemSelectionModel::ClearAndSelect);
+}
+
 void CheckListWidget::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier)
     tick(currentRow());
@@ -70,8 +76,7 @@ void QtListBoxPeer::applyEntries() {
 void QtListBoxPeer::applyContent() {
   for (int i = 0; i < box_.ListCount() && i < list_.count(); ++i)
     list_.item(i)->setCheckState(box_.Selected(i) ? Qt::Checked : Qt::Unchecked);
-  // A view that gets the focus makes its first entry current by itself, but does not mark it.
-  list_.setCurrentRow(box_.ListIndex(), QItemSelectionModel::ClearAndSelect);
+  list_.setCurrentRow(box_.ListIndex());
 }
 
 void QtListBoxPeer::reportTick(int row) {

@@ -15,6 +15,7 @@ class CheckListWidget final : public QListWidget {
   std::function<void(int)> onTicked;
 
  protected:
+  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
