@@ -1,7 +1,5 @@
 #include "buttons/QRNMenuItem.h"
 
-#include <cmath>
-
 #include "diag/QRNErrors.h"
 
 namespace qrn {
@@ -99,14 +97,7 @@ void QRNMenuItem::RemoveMenu() {
 
 void QRNMenuItem::showContextMenu(bool atKeyboard) {
   if (!menu_) return;
-  Point at = platform().cursor();
-  if (atKeyboard) {
-    const auto third = [](double length) {
-      return static_cast<double>(static_cast<std::int32_t>(std::nearbyint(length)) / 3);
-    };
-    at = platform().screenPosition(root()) + onSurface().topLeft() +
-         Point{third(ScaleWidth()), third(2 * ScaleHeight())};
-  }
+  const Point at = atKeyboard ? menuPositionForKeyboard(*this) : platform().cursor();
   const WeakRef<QRNMenuItem> self(this);
   const auto chosen = menu_->show(platform(), at);
   if (!chosen || !self) return;

@@ -4,7 +4,9 @@
 #include <optional>
 #include <string_view>
 
+#include "base/geometry.h"
 #include "host/popup_menu.h"
+#include "host/user_control.h"
 
 namespace qrn {
 
@@ -27,5 +29,8 @@ class ContextMenu {
  private:
   host::PopupMenu menu_;
 };
+
+/// Where a control's menu pops up when it is asked for by keyboard: a third of the way in, two thirds down.
+Point menuPositionForKeyboard(const host::UserControl& control);
 
 }  // namespace qrn

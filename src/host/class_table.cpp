@@ -85,7 +85,7 @@ Variant Default::of(const UserControl& control) const {
   }
 }
 
-Property Property::stored(std::string_view storedKey, Default both) const {
+Property Property::stored(std::string_view storedKey, const Default& both) const {
   return stored(storedKey, both, both);
 }
 
@@ -130,9 +130,9 @@ void restoreProperties(UserControl& control, const PropertyBag& bag) {
       steps.push_back({property, kept ? checked(property->type, *kept) : property->readDefault.of(control)});
     });
   }
-  for (const auto& [property, value] : steps) {
-    const Property::Write apply = property->restore ? property->restore : property->write;
-    forKey(table, property->key, [&] { apply(control, value); });
+  for (const Step& step : steps) {
+    const Property::Write apply = step.property->restore ? step.property->restore : step.property->write;
+    forKey(table, step.property->key, [&] { apply(control, step.value); });
   }
 }
 

@@ -143,7 +143,7 @@ struct Property {
   Default fresh;  // the value of a new instance
   Notify notify = Notify::Never;
 
-  Property stored(std::string_view storedKey, Default both) const;
+  Property stored(std::string_view storedKey, const Default& both) const;
   Property stored(std::string_view storedKey, Default onRead, Default onWrite) const;
   Property startsAs(Default value) const;
   Property notifies(Notify when) const;

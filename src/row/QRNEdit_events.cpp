@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include "row/QRNEdit.h"
 #include "row/icon_tracking.h"
 #include "runtime/errors.h"
@@ -166,15 +164,7 @@ void QRNEdit::clickOn(host::Control& child) {
 
 void QRNEdit::showContextMenu(bool atKeyboard) {
   if (!menu_ || !Enabled()) return;
-  Point at = platform().cursor();
-  if (atKeyboard) {
-    const auto third = [](double length, int factor) {
-      return static_cast<double>(factor * static_cast<std::int32_t>(std::nearbyint(length)) / 3);
-    };
-    const Point unit = pixelsPerUnit();
-    at = platform().screenPosition(root()) + onSurface().topLeft() +
-         Point{third(ScaleWidth(), 1) * unit.x, third(ScaleHeight(), 2) * unit.y};
-  }
+  const Point at = atKeyboard ? menuPositionForKeyboard(*this) : platform().cursor();
   const WeakRef<QRNEdit> self(this);
   const auto chosen = menu_->show(platform(), at);
   if (!chosen || !self) return;
