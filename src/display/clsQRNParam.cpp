@@ -145,6 +145,8 @@ void clsQRNParam::controlEvent(std::string_view name, host::EventArgs arguments)
     owner->startEditCycle(position());
   else if (name == "EndEdit")
     owner->endEditCycle(position(), arguments[0].as<bool>());
+  else if (name == "AppLostFocus")
+    owner->endEditCycle(owner->editIndex_, owner->editChanged_);
   else if (name == "BackgroundClick" || name == "LabelClick" || name == "UnitClick")
     owner->passiveClick();
   else if (name == "ItemCheck") {

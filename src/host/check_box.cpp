@@ -11,4 +11,8 @@ void CheckBox::userToggled() {
   Parent()->childClicked(*this);
 }
 
+std::intptr_t CheckBox::windowMessage(const Message& message) {
+  return message.number == wm::GetDlgCode ? dlgc::Button : Editor::windowMessage(message);
+}
+
 }  // namespace qrn::host

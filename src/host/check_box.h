@@ -15,6 +15,8 @@ class CheckBox final : public Editor {
 
   void userToggled();
 
+  std::intptr_t windowMessage(const Message& message) override;
+
  private:
   std::int16_t value_ = 0;
 };

@@ -17,4 +17,10 @@ void ComboBox::userSelected(std::int32_t index) {
   if (self) Parent()->childClicked(*this);
 }
 
+std::intptr_t ComboBox::windowStyle(std::intptr_t style) const {
+  return upperCase_ ? style | style::ComboUpperCase : style & ~style::ComboUpperCase;
+}
+
+void ComboBox::windowStyleChanged(std::intptr_t style) { setUpperCase((style & style::ComboUpperCase) != 0); }
+
 }  // namespace qrn::host

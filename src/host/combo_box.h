@@ -14,10 +14,18 @@ class ComboBox final : public ListEditor {
   bool Locked() const { return locked_; }
   void SetLocked(bool locked) { change(locked_, locked, Aspect::Enabled); }
 
+  /// Nothing can be typed into the list, so this is no more than a bit of the window's style.
+  bool upperCase() const { return upperCase_; }
+  void setUpperCase(bool upperCase) { upperCase_ = upperCase; }
+
   void userSelected(std::int32_t index);
+
+  std::intptr_t windowStyle(std::intptr_t style) const override;
+  void windowStyleChanged(std::intptr_t style) override;
 
  private:
   bool locked_ = false;
+  bool upperCase_ = false;
 };
 
 }  // namespace qrn::host

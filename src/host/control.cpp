@@ -22,6 +22,8 @@ class ControlWindow final : public WindowOwner {
   }
   std::string_view windowTitle() const override { return {}; }
   void windowInvalidated() override { control_.invalidate(); }
+  std::intptr_t windowStyle(std::intptr_t style) const override { return control_.windowStyle(style); }
+  void windowStyleChanged(std::intptr_t style) override { control_.windowStyleChanged(style); }
 
  private:
   Control& control_;
@@ -108,7 +110,10 @@ bool Control::hasFocus() const {
 
 WindowHandle Control::window() {
   auto& window = rare().window;
-  if (!window) window = std::make_unique<ControlWindow>(*this);
+  if (!window) {
+    window = std::make_unique<ControlWindow>(*this);
+    if (parent_) parent_->childWindowMade(*this);
+  }
   return window->handle();
 }
 

@@ -104,6 +104,9 @@ class Control : public Object {
   /// Where the focus goes that is given to this control.
   virtual Control* focusTarget() { return acceptsFocus() ? this : nullptr; }
   virtual std::intptr_t windowMessage(const Message& message);
+  /// The style of the window, with the bits that the control keeps itself.
+  virtual std::intptr_t windowStyle(std::intptr_t style) const { return style; }
+  virtual void windowStyleChanged(std::intptr_t /*style*/) {}
   /// The user control that holds this one has another font.
   virtual void fontChanged() {}
 

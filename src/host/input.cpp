@@ -13,10 +13,10 @@ bool isInside(const Control* control, const Control& outer) {
   return control != nullptr;
 }
 
-// The control itself and those around it, the outermost first; the surface itself stays out.
-std::vector<Control*> chainTo(Control* control, const Control& root) {
+// The control itself and those around it, the surface first.
+std::vector<Control*> chainTo(Control* control) {
   std::vector<Control*> chain;
-  for (; control && control != &root; control = control->Container()) chain.push_back(control);
+  for (; control; control = control->Container()) chain.push_back(control);
   std::reverse(chain.begin(), chain.end());
   return chain;
 }
@@ -64,7 +64,7 @@ bool Input::tellLost() {
 bool Input::tellGot() {
   const WeakRef<Control> root(root_);
   while (true) {
-    const std::vector<Control*> chain = chainTo(focus_, *root_);
+    const std::vector<Control*> chain = chainTo(focus_);
     if (told_.size() >= chain.size()) return true;
     const WeakRef<Control> got(chain[told_.size()]);
     told_.push_back(got);
@@ -158,6 +158,26 @@ bool Input::wheel(Point at, double notches) {
     if (!target) return true;
   }
   return false;
+}
+
+bool Input::wantsKey(std::int16_t keyCode) const {
+  if (!focus_) return false;
+  const std::intptr_t wanted =
+      focus_->platform().windows().send(focus_->window(), {wm::GetDlgCode, keyCode, 0});
+  std::intptr_t asked = dlgc::WantAllKeys;
+  switch (keyCode) {
+    case key::Enter:
+    case key::Escape: break;
+    case key::Tab: asked |= dlgc::WantTab; break;
+    case key::Left:
+    case key::Up:
+    case key::Right:
+    case key::Down: asked |= dlgc::WantArrows; break;
+    // A button is worked with the space bar.
+    case key::Space: asked |= dlgc::WantChars | dlgc::Button; break;
+    default: asked |= dlgc::WantChars; break;
+  }
+  return (wanted & asked) != 0;
 }
 
 bool Input::keyDown(std::int16_t keyCode, std::int16_t shiftState) {

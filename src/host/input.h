@@ -67,6 +67,9 @@ class Input {
   /// Notches away from the user are positive. Answers whether somebody scrolled.
   bool wheel(Point at, double notches);
 
+  /// Whether the focused control wants a key for itself, which a dialog around it would otherwise take for
+  /// its own navigation. Asks the control's window, as a dialog would.
+  bool wantsKey(std::int16_t keyCode) const;
   /// Each answers whether the key is used up; otherwise the native editor does what it does with it.
   bool keyDown(std::int16_t keyCode, std::int16_t shift);
   bool keyUp(std::int16_t keyCode, std::int16_t shift);

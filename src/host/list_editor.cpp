@@ -62,4 +62,9 @@ void ListEditor::entriesChanged() {
   touched(Aspect::Entries);
 }
 
+std::intptr_t ListEditor::windowMessage(const Message& message) {
+  if (message.number == wm::GetDlgCode) return dlgc::WantChars | dlgc::WantArrows;
+  return Editor::windowMessage(message);
+}
+
 }  // namespace qrn::host

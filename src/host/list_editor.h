@@ -30,6 +30,8 @@ class ListEditor : public Editor {
   /// Errors: 380 below -1 or past the last entry.
   void SetListIndex(std::int32_t index);
 
+  std::intptr_t windowMessage(const Message& message) override;
+
   /// The widest entry in the holder's scale units; 0 for an empty list. Measured once for each list and font.
   double widestText() const;
 

@@ -62,9 +62,14 @@ void TextBox::userSelected(std::int32_t start, std::int32_t length) {
 }
 
 std::intptr_t TextBox::windowMessage(const Message& message) {
-  constexpr std::intptr_t kWantsChars = 0x80, kHasSetSel = 0x08, kWantsArrows = 0x01;
-  if (message.number == wm::GetDlgCode) return kWantsChars | kHasSetSel | kWantsArrows;
+  if (message.number == wm::GetDlgCode) return dlgc::WantChars | dlgc::HasSetSel | dlgc::WantArrows;
   return Editor::windowMessage(message);
 }
+
+std::intptr_t TextBox::windowStyle(std::intptr_t style) const {
+  return upperCase_ ? style | style::EditUpperCase : style & ~style::EditUpperCase;
+}
+
+void TextBox::windowStyleChanged(std::intptr_t style) { setUpperCase((style & style::EditUpperCase) != 0); }
 
 }  // namespace qrn::host

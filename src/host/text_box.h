@@ -40,6 +40,8 @@ class TextBox final : public Editor {
   void userSelected(std::int32_t start, std::int32_t length);
 
   std::intptr_t windowMessage(const Message& message) override;
+  std::intptr_t windowStyle(std::intptr_t style) const override;
+  void windowStyleChanged(std::intptr_t style) override;
 
  protected:
   void forgetMeasures() override { textWidth_ = kUnknown; }

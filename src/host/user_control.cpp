@@ -62,6 +62,10 @@ void UserControl::readProperties(const PropertyBag& bag) { restoreProperties(*th
 
 void UserControl::writeProperties(PropertyBag& bag) const { saveProperties(*this, bag); }
 
+std::intptr_t UserControl::windowMessage(const Message& message) {
+  return message.number == wm::GetDlgCode ? dlgc::WantAllKeys : ContainerControl::windowMessage(message);
+}
+
 void UserControl::setFont(FontPtr font) {
   font_ = font ? std::move(font) : platform().defaultFont();
   metrics_ = nullptr;

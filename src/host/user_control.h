@@ -52,6 +52,9 @@ class UserControl : public ContainerControl, public Site {
 
   PeerPolicy peerPolicy() const override { return Container() ? PeerPolicy::Never : PeerPolicy::Surface; }
 
+  /// Keys go to our own controls rather than to a dialog around them.
+  std::intptr_t windowMessage(const Message& message) override;
+
   // ---- input, in pixels of this control ----
   virtual void mouseDown(MouseButton, std::int16_t /*shift*/, Point) {}
   virtual void mouseMove(std::int16_t /*buttons*/, std::int16_t /*shift*/, Point) {}
@@ -66,6 +69,8 @@ class UserControl : public ContainerControl, public Site {
   virtual void childChanged(Control&) {}
   virtual void childClicked(Control&) {}
   virtual void childItemChecked(Control&, std::int16_t /*item*/) {}
+  /// The child's window has been made, and can be hooked.
+  virtual void childWindowMade(Control&) {}
   virtual void childGotFocus(Control&) {}
   virtual void childLostFocus(Control&) {}
   virtual void childMouseDown(Control&, MouseButton, std::int16_t /*shift*/, Point) {}

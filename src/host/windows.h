@@ -19,6 +19,22 @@ inline constexpr std::uint32_t KeyUp = 0x0101;
 inline constexpr std::uint32_t User = 0x0400;
 }  // namespace wm
 
+/// Answers to GetDlgCode: the keys that a window wants for itself.
+namespace dlgc {
+inline constexpr std::intptr_t WantArrows = 0x01;
+inline constexpr std::intptr_t WantTab = 0x02;
+inline constexpr std::intptr_t WantAllKeys = 0x04;
+inline constexpr std::intptr_t HasSetSel = 0x08;
+inline constexpr std::intptr_t WantChars = 0x80;
+inline constexpr std::intptr_t Button = 0x2000;
+}  // namespace dlgc
+
+/// Bits of a window's style that mean something to the standard controls.
+namespace style {
+inline constexpr std::intptr_t EditUpperCase = 0x0008;
+inline constexpr std::intptr_t ComboUpperCase = 0x2000;
+}  // namespace style
+
 inline constexpr int kGwlWndProc = -4;
 inline constexpr int kGwlStyle = -16;
 inline constexpr int kGwlUserData = -21;
@@ -40,6 +56,9 @@ class WindowOwner {
   virtual WindowHandle parentWindow() const = 0;
   virtual std::string_view windowTitle() const = 0;
   virtual void windowInvalidated() = 0;
+  /// The style with the bits that the owner keeps itself.
+  virtual std::intptr_t windowStyle(std::intptr_t style) const { return style; }
+  virtual void windowStyleChanged(std::intptr_t /*style*/) {}
 };
 
 /// The part of the window interface that the controls use. A handle that is stale, or never was one, is

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "diag/QRNErrors.h"
+#include "row/focus_watch.h"
 #include "row/icon_tracking.h"
 
 namespace qrn {
@@ -36,6 +37,7 @@ void QRNEdit::show() {
 
 void QRNEdit::terminate() {
   stopTracking();
+  focusWatch_.reset();
   removeEditor();
 }
 

@@ -8,6 +8,7 @@
 
 #include "buttons/context_menu.h"
 #include "enums/enumerations.h"
+#include "hooks/clsQRNEDitSubClass.h"
 #include "host/editor.h"
 #include "host/image.h"
 #include "host/label.h"
@@ -217,6 +218,7 @@ class QRNEdit final : public host::UserControl {
 
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
   void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  void childWindowMade(host::Control& child) override;
   void childChanged(host::Control& child) override;
   void childClicked(host::Control& child) override;
   void childItemChecked(host::Control& child, std::int16_t item) override;
@@ -334,6 +336,7 @@ class QRNEdit final : public host::UserControl {
   // ---- events (QRNEdit_events.cpp) ----
   bool beginEdit();
   bool endEdit();
+  void watchApplication();
   Icon* iconOf(const host::Control& child);
   void clickOn(host::Control& child);
   bool isTracked(const Icon& icon) const;
@@ -357,6 +360,8 @@ class QRNEdit final : public host::UserControl {
   std::unique_ptr<clsQRNArray> array_;
   std::unique_ptr<ContextMenu> menu_;
   std::unique_ptr<struct IconTracking> tracking_;
+  std::unique_ptr<struct FocusWatch> focusWatch_;   // while the row has the focus
+  std::unique_ptr<clsQRNEDitSubClass> editorHook_;  // from the moment on when the editor has a window
 
   qrnValueType valueType_ = qrnTypeString;
   std::int32_t horizontalSpacing_ = 4;

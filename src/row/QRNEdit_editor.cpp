@@ -106,12 +106,20 @@ void QRNEdit::switchEditor(qrnValueType type) {
 
 void QRNEdit::removeEditor() {
   const host::Control* frame = editorFrame();
+  // While the window still exists.
+  editorHook_.reset();
   editorKind_ = EditorKind::None;
   txtValue_ = nullptr;
   chkValue_ = nullptr;
   cboValue_ = nullptr;
   lstValue_ = nullptr;
   if (frame) controls().remove(std::string(frame->Name()));
+}
+
+void QRNEdit::childWindowMade(host::Control& child) {
+  if (&child != CurrentEditor()) return;
+  editorHook_ = std::make_unique<clsQRNEDitSubClass>();
+  editorHook_->SetHwnd(child.window());
 }
 
 template <class T>
@@ -174,6 +182,7 @@ void QRNEdit::applyEnabled() {
 
 void QRNEdit::applyUpperCase() {
   if (txtValue_) txtValue_->setUpperCase(valueUpperCase_);
+  if (cboValue_) cboValue_->Combo().setUpperCase(valueUpperCase_);
 }
 
 void QRNEdit::applyMaxLength() {

@@ -1,4 +1,6 @@
+#include "diag/DebugTrace.h"
 #include "row/QRNEdit.h"
+#include "row/focus_watch.h"
 #include "row/icon_tracking.h"
 #include "runtime/errors.h"
 #include "values/bit_string.h"
@@ -7,6 +9,7 @@ namespace qrn {
 namespace {
 
 constexpr std::int32_t kHoverInterval = 70;  // milliseconds
+constexpr std::int32_t kTraceLevel = 0;
 
 bool isInside(const host::Control& part, Point at) {
   const Size size = part.pixelSize();
@@ -46,12 +49,29 @@ bool QRNEdit::endEdit() {
 
 void QRNEdit::gotFocus() {
   const WeakRef<QRNEdit> self(this);
+  watchApplication();
   beginEdit();
   if (self) UserControl::gotFocus();
 }
 
+// Whoever leaves the application leaves the edit; it begins again when he comes back and finds the focus
+// here.
+void QRNEdit::watchApplication() {
+  focusWatch_ = std::make_unique<FocusWatch>();
+  focusWatch_->left = focusWatch_->application.AppLostFocus.connect([this] {
+    const WeakRef<QRNEdit> self(this);
+    endEdit();
+    if (self) ObjectEvent.raise("AppLostFocus", {});
+  });
+  focusWatch_->back = focusWatch_->application.AppGotFocus.connect([this] {
+    if (beginEdit()) DebugTrace("AppGotFocus", kTraceLevel);
+  });
+  focusWatch_->application.SetHwnd(root().window());
+}
+
 void QRNEdit::lostFocus() {
   const WeakRef<QRNEdit> self(this);
+  focusWatch_.reset();
   endEdit();
   if (self) UserControl::lostFocus();
 }

@@ -23,6 +23,7 @@ class CompositeEditor : public host::UserControl {
   void childItemChecked(host::Control& child, std::int16_t item) override {
     Parent()->childItemChecked(child, item);
   }
+  void childWindowMade(host::Control& child) override { Parent()->childWindowMade(child); }
   void childKeyDown(host::Control& child, std::int16_t& keyCode, std::int16_t& shift) override {
     Parent()->childKeyDown(child, keyCode, shift);
   }

@@ -47,6 +47,7 @@ class RowLog {
  public:
   explicit RowLog(QRNEdit& row) {
     connection_ = row.ObjectEvent.connect([this](std::string_view name, host::EventArgs arguments) {
+      if (isFocusEvent(name)) return;
       std::string line(name);
       for (std::size_t i = 0; i < arguments.size(); ++i) {
         line += i ? ", " : "(";

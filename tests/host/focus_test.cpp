@@ -32,6 +32,15 @@ class Focus : public SurfaceTest {
   host::TextBox& plain = surface().add<host::TextBox>("plain", {0, 40, 90, 20});
 };
 
+TEST_F(Focus, IsToldToTheSurfaceItselfToo) {
+  surface().notesFocus = true;
+  host::Control& editor = surface().controls().add("VB.TextBox", "txt", surface());
+  editor.SetFocus();
+  EXPECT_TRUE(surface().hasFocus());
+  input().setFocus(nullptr);
+  EXPECT_EQ(heard(), (Heard{"surface GotFocus", "txt GotFocus", "txt LostFocus", "surface LostFocus"}));
+}
+
 TEST_F(Focus, IsLostFromTheInsideOutAndGotFromTheOutsideIn) {
   a.SetFocus();
   EXPECT_EQ(heard(), (Heard{"row1 GotFocus", "a GotFocus"}));

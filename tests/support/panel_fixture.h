@@ -20,11 +20,15 @@ inline std::string shown(bool value) { return value ? "True" : "False"; }
 inline std::string shown(std::int32_t value) { return std::to_string(value); }
 inline std::string shown(std::int16_t value) { return std::to_string(value); }
 
+/// What every control tells its container of the focus, beside its own events.
+inline bool isFocusEvent(std::string_view name) { return name == "GotFocus" || name == "LostFocus"; }
+
 /// Writes down every event of a panel with its arguments, in the order in which they are raised.
 class EventLog {
  public:
   explicit EventLog(QRNDisplay& panel) {
     connection_ = panel.ObjectEvent.connect([this](std::string_view name, host::EventArgs arguments) {
+      if (isFocusEvent(name)) return;
       std::string line(name);
       if (!arguments.empty()) line += "(";
       for (std::size_t i = 0; i < arguments.size(); ++i) {

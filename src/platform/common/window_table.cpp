@@ -66,13 +66,18 @@ std::intptr_t* WindowTable::longOf(Slot& slot, int index) {
 std::intptr_t WindowTable::getLong(host::WindowHandle window, int index) {
   Slot* slot = find(window);
   const std::intptr_t* value = slot ? longOf(*slot, index) : nullptr;
-  return value ? *value : 0;
+  if (!value) return 0;
+  return index == host::kGwlStyle ? slot->owner->windowStyle(*value) : *value;
 }
 
 std::intptr_t WindowTable::setLong(host::WindowHandle window, int index, std::intptr_t value) {
   Slot* slot = find(window);
   std::intptr_t* target = slot ? longOf(*slot, index) : nullptr;
-  return target ? std::exchange(*target, value) : 0;
+  if (!target) return 0;
+  const std::intptr_t before = getLong(window, index);
+  *target = value;
+  if (index == host::kGwlStyle) slot->owner->windowStyleChanged(value);
+  return before;
 }
 
 std::intptr_t WindowTable::callProcedure(std::intptr_t procedure, host::WindowHandle window,
@@ -136,6 +141,13 @@ bool WindowTable::isEnabled(host::WindowHandle window) {
 
 void WindowTable::invalidate(host::WindowHandle window) {
   if (Slot* slot = find(window)) slot->owner->windowInvalidated();
+}
+
+void WindowTable::sendToAll(const host::Message& message) {
+  // By index and with the handle of the moment: an owner may make windows, or end them.
+  for (std::uint32_t i = 0; i < slots_.size(); ++i) {
+    if (slots_[i].owner && slots_[i].owner->parentWindow() == 0) send(handleOf(i), message);
+  }
 }
 
 std::intptr_t WindowTable::send(host::WindowHandle window, const host::Message& message) {

@@ -36,6 +36,11 @@ class WindowTable : public host::Windows {
   std::intptr_t send(host::WindowHandle window, const host::Message& message) override;
   void post(host::WindowHandle window, const host::Message& message) override;
 
+  /// To every window without a parent.
+  void sendToAll(const host::Message& message);
+  /// The application as a whole has been activated, or left for another one.
+  void applicationActivated(bool active) { sendToAll({host::wm::ActivateApp, active ? 1 : 0, 0}); }
+
   /// Delivers what was posted before the call; what is posted meanwhile waits for the next one.
   void deliverPosted();
   bool hasPosted() const { return !posted_.empty(); }

@@ -24,6 +24,10 @@ class User {
   void doubleClicks(host::Control& control);
   void hovers(host::Control& control) { movesTo(middleOf(control)); }
   void focuses(host::Control& control) { control.SetFocus(); }
+  /// Closes the window of the surface; nothing happens to the controls but what its watchers do.
+  void closes() { platform_.windows().send(surface_.window(), {host::wm::Close, 0, 0}); }
+  void switchesAway() { platform_.windows().applicationActivated(false); }
+  void comesBack() { platform_.windows().applicationActivated(true); }
 
   // Points are pixels of the surface.
   void clicksAt(Point at, host::MouseButton button = host::MouseButton::Left);

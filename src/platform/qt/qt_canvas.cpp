@@ -211,8 +211,7 @@ bool QtCanvas::eventFilter(QObject* watched, QEvent* event) {
   auto& editor = static_cast<QWidget&>(*watched);
   switch (event->type()) {
     case QEvent::ShortcutOverride: {
-      // A dialog must not take these keys away from an editor.
-      const bool ours = isPlain(static_cast<QKeyEvent&>(*event));
+      const bool ours = wants(static_cast<QKeyEvent&>(*event));
       if (ours) event->accept();
       return ours;
     }
@@ -225,15 +224,22 @@ bool QtCanvas::eventFilter(QObject* watched, QEvent* event) {
   }
 }
 
+// A dialog must not take these keys away from an editor.
+bool QtCanvas::wants(const QKeyEvent& event) {
+  bool wanted = false;
+  if (isPlain(event)) guarded([&] { wanted = input().wantsKey(keyCode(event)); });
+  return wanted;
+}
+
 // Keys of the canvas itself, and those that its editor has left over.
 bool QtCanvas::ownKey(QKeyEvent& event) {
   if (!hasFocus()) {
-    event.setAccepted(isPlain(event));
+    event.setAccepted(wants(event));
     return true;
   }
   if (event.type() == QEvent::KeyPress) return keyPressed(event, nullptr);
   if (event.type() == QEvent::KeyRelease) return keyReleased(event);
-  const bool ours = input().focus() && isPlain(event);
+  const bool ours = wants(event);
   if (ours) event.accept();
   return ours;
 }

@@ -23,6 +23,8 @@ class QtCanvas final : public QWidget {
   QtCanvas(QtPlatform& platform, host::UserControl& control);
 
   QtPlatform& platform() const { return platform_; }
+  /// Null once the control has gone.
+  host::UserControl* control() const { return control_; }
   /// The control has gone: from now on the canvas is an empty widget.
   void release() { control_ = nullptr; }
   /// The control's size is another one now.
@@ -60,6 +62,7 @@ class QtCanvas final : public QWidget {
   void showCursorOver(const QPointF& at);
   bool showToolTip(QHelpEvent& event);
 
+  bool wants(const QKeyEvent& event);
   bool ownKey(QKeyEvent& event);
   /// Each answers whether the key is used up; `editor` is the widget that has it otherwise, if any.
   bool keyPressed(QKeyEvent& event, QWidget* editor);

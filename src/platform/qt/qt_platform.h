@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/platform.h"
+#include "platform/qt/qt_application_watch.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_editor_painter.h"
 #include "platform/qt/qt_font_metrics.h"
@@ -54,6 +55,7 @@ class QtPlatform final : public host::Platform {
   host::FontPtr defaultFont_;
   std::deque<std::pair<host::Font, QtFontMetrics>> metrics_;
   QtWindows windows_;
+  QtApplicationWatch applicationWatch_{windows_};
   QtClock clock_;
   QtPalettes palettes_;
   QtPictureCache pictures_;

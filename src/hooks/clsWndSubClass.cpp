@@ -1,0 +1,73 @@
+#include "hooks/clsWndSubClass.h"
+
+#include <algorithm>
+
+#include "hooks/window_registry.h"
+
+namespace qrn {
+namespace {
+
+constexpr std::string_view kObjectPointer = "ObjectPointer";
+constexpr std::string_view kOldWindowProc = "OldWindowProc";
+
+}  // namespace
+
+void clsWndSubClass::Add(clsSubClass& watcher, host::WindowHandle hwnd) {
+  if (watchers_.empty()) hook(hwnd);
+  watchers_.push_back(&watcher);
+}
+
+void clsWndSubClass::Remove(const clsSubClass& watcher) {
+  std::erase(watchers_, &watcher);
+  if (watchers_.empty()) unhook();
+}
+
+void clsWndSubClass::hook(host::WindowHandle window) {
+  host::Windows* const table = threadWindows();
+  if (!table) return;
+  if (table->property(window, kOldWindowProc) == 0) {
+    table->setProperty(window, kObjectPointer, reinterpret_cast<std::intptr_t>(this));
+    table->setProperty(window, kOldWindowProc, table->getLong(window, host::kGwlWndProc));
+    table->setLong(window, host::kGwlWndProc, reinterpret_cast<std::intptr_t>(&windowProcedure));
+  }
+  hwnd_ = window;
+}
+
+void clsWndSubClass::unhook() {
+  host::Windows* const table = threadWindows();
+  const host::WindowHandle window = std::exchange(hwnd_, 0);
+  // Another object may have hooked the window since.
+  if (!table || table->property(window, kObjectPointer) != reinterpret_cast<std::intptr_t>(this)) return;
+  table->setLong(window, host::kGwlWndProc, table->property(window, kOldWindowProc));
+  table->removeProperty(window, kOldWindowProc);
+  table->removeProperty(window, kObjectPointer);
+}
+
+bool clsWndSubClass::watches(const clsSubClass* watcher) const {
+  return std::find(watchers_.begin(), watchers_.end(), watcher) != watchers_.end();
+}
+
+std::intptr_t clsWndSubClass::WindowProc(host::WindowHandle hwnd, std::uint32_t msg, std::intptr_t wParam,
+                                         std::intptr_t lParam) {
+  // The last watcher may leave, and the window may go, while they are being told.
+  const auto self = weak_from_this().lock();
+  host::Windows& table = *threadWindows();
+  const std::intptr_t ownProcedure = table.property(hwnd, kOldWindowProc);
+  try {
+    const auto toTell = watchers_;
+    for (clsSubClass* watcher : toTell) {
+      if (watches(watcher)) watcher->WindowProc(hwnd, msg, wParam, lParam);
+    }
+  } catch (...) {
+    unhook();
+  }
+  return table.callProcedure(ownProcedure, hwnd, {msg, wParam, lParam});
+}
+
+std::intptr_t clsWndSubClass::windowProcedure(host::WindowHandle hwnd, std::uint32_t msg,
+                                              std::intptr_t wParam, std::intptr_t lParam) {
+  auto* const object = reinterpret_cast<clsWndSubClass*>(threadWindows()->property(hwnd, kObjectPointer));
+  return object ? object->WindowProc(hwnd, msg, wParam, lParam) : 0;
+}
+
+}  // namespace qrn

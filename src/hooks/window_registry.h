@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/windows.h"
+
+namespace qrn {
+
+class clsSubClass;
+
+/// The subclassed windows of this thread: one clsWndSubClass for each window that somebody watches.
+void registerWatcher(host::WindowHandle window, clsSubClass& watcher);
+void unregisterWatcher(host::WindowHandle window, const clsSubClass& watcher);
+int watchedWindows();
+
+/// Null when the thread's platform has gone already: its windows have gone with it.
+host::Windows* threadWindows();
+
+}  // namespace qrn
