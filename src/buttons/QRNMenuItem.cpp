@@ -76,6 +76,10 @@ bool QRNMenuItem::Redraw() const {
 
 void QRNMenuItem::SetRedraw(bool redraw) {
   if (!userMode()) RaiseError(kSetNotAtDesignTime, *this);
+  switchRedraw(redraw);
+}
+
+void QRNMenuItem::switchRedraw(bool redraw) {
   if (redraw && !redraw_) invalidate();
   redraw_ = redraw;
 }

@@ -71,6 +71,9 @@ class QRNMenuItem final : public host::UserControl {
   /// Breaks a text into lines no wider than a width, between words where that is possible.
   std::string WrapCaption(std::string text, double width) const;
 
+  /// What a panel does while it moves the button: as Redraw, but in a designer too.
+  void switchRedraw(bool redraw);
+
   void paint(host::Surface& surface, Size size) override;
   bool acceptsFocus() const override { return Enabled() && Visible(); }
 

@@ -110,17 +110,17 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
 // Answers where the item ends. Buttons touch each other; rows keep a distance from everything.
 double QRNDisplay::placeAction(QRNMenuItem& button, double y, double gap) {
   const std::int32_t spacing = GetHorizontalSpacing(), height = GetMenuItemHeight();
-  button.SetRedraw(false);
+  button.switchRedraw(false);
   button.SetMargin(spacing);
   if (y > 0 && gap >= 1) y += gap;
   button.Move(0, y, std::max(containerWidth() - spacing, kNarrowest), height);
-  button.SetRedraw(true);
+  button.switchRedraw(true);
   return y + height;
 }
 
 double QRNDisplay::placeRow(QRNEdit& row, const ColumnWidths& automatic, double y, double gap) {
   const std::int32_t spacing = GetHorizontalSpacing();
-  row.SetRedraw(false);
+  row.switchRedraw(false);
   row.SetHorizontalSpacing(spacing);
   const double width = std::max(containerWidth() - 2 * spacing, kNarrowest);
   double free = width - row.GetMinBruttoWidth();
@@ -139,7 +139,7 @@ double QRNDisplay::placeRow(QRNEdit& row, const ColumnWidths& automatic, double 
   const std::int32_t height = row.GetMinHeight();
   if (y > 0) y += std::max(gap, static_cast<double>(GetVerticalSpacing()));
   row.Move(spacing, y, width, height);
-  row.SetRedraw(true);
+  row.switchRedraw(true);
   return y + height;
 }
 

@@ -25,6 +25,14 @@ void ListBox::userChecked(std::int16_t index) {
   Parent()->childItemChecked(*this, index);
 }
 
+void ListBox::userPressed(MouseButton button, Point at) {
+  Parent()->childMouseDown(*this, button, shift::None, at);
+}
+
+void ListBox::userReleased(MouseButton button, Point at) {
+  Parent()->childMouseUp(*this, button, shift::None, at);
+}
+
 void ListBox::gotFocus() {
   // So that the focus mark can be seen.
   if (ListIndex() == -1 && ListCount() > 0) SetListIndex(0);

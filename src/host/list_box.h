@@ -15,6 +15,10 @@ class ListBox final : public ListEditor {
   /// The user made an entry current, or ticked one off or on.
   void userMovedTo(std::int32_t index);
   void userChecked(std::int16_t index);
+  /// A mouse button on the list's own widget; a list without one hears of it as every part does. In pixels of
+  /// the list.
+  void userPressed(MouseButton button, Point at);
+  void userReleased(MouseButton button, Point at);
 
  protected:
   void gotFocus() override;

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <limits>
 
+#include "base/text.h"
 #include "host/user_control.h"
 #include "runtime/errors.h"
+#include "runtime/letter_case.h"
 
 namespace qrn::host {
 
@@ -60,6 +62,18 @@ double ListEditor::widestText() const {
 void ListEditor::entriesChanged() {
   widest_ = kUnknown;
   touched(Aspect::Entries);
+}
+
+std::int32_t ListEditor::indexTypedTo(char32_t character) const {
+  std::string wanted;
+  text::append(wanted, character);
+  wanted = upperCase(std::string_view(wanted));
+  const std::int32_t count = ListCount();
+  for (std::int32_t step = 1; step <= count; ++step) {
+    const std::int32_t index = (listIndex_ + step) % count;
+    if (upperCase(std::string_view(List(index))).starts_with(wanted)) return index;
+  }
+  return listIndex_;
 }
 
 std::intptr_t ListEditor::windowMessage(const Message& message) {

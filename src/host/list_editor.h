@@ -30,6 +30,10 @@ class ListEditor : public Editor {
   /// Errors: 380 below -1 or past the last entry.
   void SetListIndex(std::int32_t index);
 
+  /// Where typing a character leads: to the next entry that begins with it, in either case, from the top
+  /// again at the end. The current one when there is none.
+  std::int32_t indexTypedTo(char32_t character) const;
+
   std::intptr_t windowMessage(const Message& message) override;
 
   /// The widest entry in the holder's scale units; 0 for an empty list. Measured once for each list and font.

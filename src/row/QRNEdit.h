@@ -204,6 +204,9 @@ class QRNEdit final : public host::UserControl {
   Event<std::int16_t&, std::int16_t&> KeyUp;
   Event<> StatusChange;
 
+  /// What a panel does while it moves the row: as Redraw, but in a designer too.
+  void switchRedraw(bool redraw);
+
   // ---- the parts, for tests and platforms ----
   host::Label& lblLabel() { return lblLabel_; }
   host::Label& lblUnit() { return lblUnit_; }
@@ -322,7 +325,6 @@ class QRNEdit final : public host::UserControl {
   void correctDecimalSeparator();
 
   // ---- layout (QRNEdit_layout.cpp) ----
-  void switchRedraw(bool redraw);
   void layOut();
   bool showEditor();
   double placeParts(double x, bool move);

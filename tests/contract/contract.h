@@ -110,6 +110,7 @@ class ContractSurface final : public host::UserControl {
   std::function<void(const std::string&)> listener;
   /// Keys and characters are written down too.
   bool notesKeys = false;
+  bool notesMouse = false;
   /// The key code or character that a listener clears.
   std::int16_t swallowed = -1;
   bool usesWheel = true;
@@ -126,6 +127,12 @@ class ContractSurface final : public host::UserControl {
   void childClicked(host::Control& child) override { note(child.Name() + " Click"); }
   void childItemChecked(host::Control& child, std::int16_t item) override {
     note(child.Name() + " ItemCheck " + std::to_string(item));
+  }
+  void childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point at) override {
+    noteMouse(child, "MouseDown", button, at);
+  }
+  void childMouseUp(host::Control& child, host::MouseButton button, std::int16_t, Point at) override {
+    noteMouse(child, "MouseUp", button, at);
   }
   void childGotFocus(host::Control& child) override { note(child.Name() + " GotFocus"); }
   void childLostFocus(host::Control& child) override { note(child.Name() + " LostFocus"); }
@@ -179,6 +186,12 @@ class ContractSurface final : public host::UserControl {
     heard.push_back(what);
     // A copy: the surface itself may go inside.
     if (const auto call = listener) call(what);
+  }
+  void noteMouse(const host::Control& child, const char* what, host::MouseButton button, Point at) {
+    if (!notesMouse) return;
+    const Rect inside{0, 0, child.Width(), child.Height()};
+    note(child.Name() + " " + what + " " + std::to_string(static_cast<int>(button)) +
+         (inside.contains(at) ? "" : " outside"));
   }
   void noteKey(const char* what, std::int16_t& key, std::int16_t shift) {
     const std::int16_t given = key;

@@ -222,6 +222,18 @@ TEST_F(PanelLayout, DrawingOfEveryItemIsOnAgainAfterwards) {
   EXPECT_TRUE(button(2).Redraw());
 }
 
+TEST_F(PanelLayout, WorksInADesignerToo) {
+  site.ambientProperties.userMode = false;
+  const auto designed = host::create<QRNDisplay>(site);
+  const auto parameter = designed->Items().AddParameter("A", qrnTypeString);
+  const auto action = designed->Items().AddAction("B", ddtypeMethod);
+  designed->LayoutControls(false);
+  designed->Move(0, 0, 300, 200);
+  EXPECT_EQ(parameter->Control().TabIndex(), 1);
+  EXPECT_EQ(action->Control().TabIndex(), 2);
+  EXPECT_EQ(action->Control().Top(), parameter->Control().Height() + designed->GetVerticalSpacing());
+}
+
 TEST_F(PanelLayout, AToleranceBeyondAllWidthsIsRefusedAsAnOverflow) {
   addRows(1);
   EXPECT_EQ(raisedBy([&] { panel().SetColumnLayout(0, 0, 0, 3e9f); }).number, kOverflow);

@@ -122,13 +122,40 @@ TEST_F(Keys, AWidgetThatTakesTheFocusDropsTheEditor) {
   EXPECT_TRUE(shown<QLineEdit>()->hasFocus());
 }
 
-TEST_F(Keys, EnterAndArrowsAreNotTakenAwayByTheWindowAround) {
-  QShortcut enter(Qt::Key_Return, window.get());
-  QShortcut save(Qt::CTRL | Qt::Key_S, window.get());
-  int entered = 0, saved = 0;
-  QObject::connect(&enter, &QShortcut::activated, [&] { ++entered; });
-  QObject::connect(&save, &QShortcut::activated, [&] { ++saved; });
+/// Shortcuts of the window around a panel, counted.
+struct Shortcuts {
+  explicit Shortcuts(QWidget& window)
+      : enter(Qt::Key_Return, &window), left(Qt::Key_Left, &window), save(Qt::CTRL | Qt::Key_S, &window) {
+    QObject::connect(&enter, &QShortcut::activated, [this] { ++entered; });
+    QObject::connect(&left, &QShortcut::activated, [this] { ++moved; });
+    QObject::connect(&save, &QShortcut::activated, [this] { ++saved; });
+  }
+  QShortcut enter, left, save;
+  int entered = 0, moved = 0, saved = 0;
+};
+
+std::intptr_t wantsAllKeys(host::WindowHandle, std::uint32_t, std::intptr_t, std::intptr_t) {
+  return host::dlgc::WantAllKeys;
+}
+
+TEST_F(Keys, WhatAnEditorIsMovedAndFilledWithIsNotTakenAwayByTheWindowAround) {
+  Shortcuts around(*window);
   panel->text().SetFocus();
+  panel->text().select(3, 0);
+  QTest::keyClick(window->windowHandle(), Qt::Key_Left);
+  EXPECT_EQ(around.moved, 0);
+  EXPECT_EQ(panel->text().SelStart(), 2);
+  QTest::keyClick(window->windowHandle(), Qt::Key_Return);
+  EXPECT_EQ(around.entered, 1) << "which is not for the text";
+}
+
+TEST_F(Keys, EnterIsNotTakenAwayFromAnEditorThatAsksForAllKeys) {
+  Shortcuts around(*window);
+  int& entered = around.entered;
+  int& saved = around.saved;
+  panel->text().SetFocus();
+  platform.windows().setLong(panel->text().window(), host::kGwlWndProc,
+                             reinterpret_cast<std::intptr_t>(&wantsAllKeys));
   QTest::keyClick(window->windowHandle(), Qt::Key_Return);
   EXPECT_EQ(entered, 0);
   EXPECT_TRUE(heard("text KeyPress 13"));

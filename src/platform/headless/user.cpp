@@ -1,6 +1,7 @@
 #include "platform/headless/user.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "base/text.h"
 #include "host/check_box.h"
@@ -104,14 +105,23 @@ void User::clicksAt(Point at, host::MouseButton button) {
 void User::pressesAt(Point at, host::MouseButton button) {
   platform_.setCursor(at);
   const WeakRef<host::Control> target(input().hit(at));
-  input().mouseDown(button, host::shift::None, at);
+  const WeakRef<host::Control> surface(&surface_);
+  host::Control* const widget = input().mouseDown(button, host::shift::None, at);
+  pressedWidget_ = surface ? WeakRef<host::Control>(widget) : WeakRef<host::Control>();
+  if (auto* list = dynamic_cast<host::ListBox*>(pressedWidget_.get()))
+    list->userPressed(button, list->fromSurface(at));
   if (button != host::MouseButton::Left || !target) return;
   if (auto* check = dynamic_cast<host::CheckBox*>(target.get())) check->userToggled();
 }
 
 void User::releasesAt(Point at, host::MouseButton button) {
   platform_.setCursor(at);
-  input().mouseUp(button, host::shift::None, at);
+  const WeakRef<host::Control> widget = std::exchange(pressedWidget_, {});
+  auto* list = dynamic_cast<host::ListBox*>(widget.get());
+  if (list)
+    list->userReleased(button, list->fromSurface(at));
+  else
+    input().mouseUp(button, host::shift::None, at);
 }
 
 void User::movesTo(Point at) {
@@ -145,9 +155,18 @@ void User::typeCharacter(char32_t character) {
       edit(*box, typed, 0, 0);
     } else if (focus && remains == host::key::Space) {
       keyInto(*focus, host::key::Space, shift);
+    } else if (remains != 0) {
+      typeAhead(focus, remains == given ? character : static_cast<char32_t>(remains));
     }
   }
   if (surface) input().keyUp(code, shift);
+}
+
+void User::typeAhead(host::Control* list, char32_t character) {
+  if (auto* combo = dynamic_cast<host::ComboBox*>(list))
+    combo->userSelected(combo->indexTypedTo(character));
+  else if (auto* box = dynamic_cast<host::ListBox*>(list))
+    box->userMovedTo(box->indexTypedTo(character));
 }
 
 void User::presses(std::int16_t keyCode, std::int16_t shift) {

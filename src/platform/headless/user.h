@@ -54,11 +54,13 @@ class User {
 
  private:
   host::Input& input() { return surface_.input(); }
+  void typeAhead(host::Control* list, char32_t character);
   void typeCharacter(char32_t character);
   void keyInto(host::Control& editor, std::int16_t keyCode, std::int16_t shift);
 
   HeadlessPlatform& platform_;
   host::UserControl& surface_;
+  WeakRef<host::Control> pressedWidget_;  // has a native widget, which follows the mouse until the release
 };
 
 }  // namespace qrn::headless

@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_geometry.h"
+#include "platform/qt/qt_keys.h"
 #include "platform/qt/qt_list_item.h"
 #include "platform/qt/qt_text.h"
 
@@ -34,12 +36,18 @@ void CheckListWidget::keyPressEvent(QKeyEvent* event) {
 void CheckListWidget::mousePressEvent(QMouseEvent* event) {
   pressedRow_ = event->button() == Qt::LeftButton ? row(itemAt(event->pos())) : -1;
   QListWidget::mousePressEvent(event);
+  tellMouse(*event);
 }
 
 void CheckListWidget::mouseReleaseEvent(QMouseEvent* event) {
   QListWidget::mouseReleaseEvent(event);
   const int pressed = std::exchange(pressedRow_, -1);
   if (event->button() == Qt::LeftButton && pressed == row(itemAt(event->pos()))) tick(pressed);
+  tellMouse(*event);
+}
+
+void CheckListWidget::tellMouse(const QMouseEvent& event) {
+  if (const auto listener = onMouse) listener(event);
 }
 
 void CheckListWidget::tick(int row) {
@@ -53,12 +61,15 @@ QtListBoxPeer::QtListBoxPeer(QtCanvas& canvas, host::ListBox& box)
       list_(static_cast<CheckListWidget&>(*widget())) {
   bringUpToDate();
   list_.onTicked = [this](int row) { reportTick(row); };
+  list_.onMouse = [this](const QMouseEvent& event) { reportMouse(event); };
   QObject::connect(&list_, &QListWidget::currentRowChanged, context(),
                    [this](int row) { report([this, row] { box_.userMovedTo(row); }); });
 }
 
 QtListBoxPeer::~QtListBoxPeer() {
-  if (widget()) list_.onTicked = nullptr;
+  if (!widget()) return;
+  list_.onTicked = nullptr;
+  list_.onMouse = nullptr;
 }
 
 QWidget* QtListBoxPeer::mouseReceiver() const { return widget() ? list_.viewport() : nullptr; }
@@ -83,6 +94,16 @@ void QtListBoxPeer::reportTick(int row) {
   const QPointer<QObject> alive(context());
   report([this, row] { box_.userChecked(static_cast<std::int16_t>(row)); });
   if (alive) changed(host::Aspect::Content);
+}
+
+void QtListBoxPeer::reportMouse(const QMouseEvent& event) {
+  const auto button = mouseButton(event.button());
+  if (!button) return;
+  const Point at = fromQt(QPointF(list_.viewport()->mapTo(&list_, event.position().toPoint())));
+  if (event.type() == QEvent::MouseButtonPress)
+    report([&] { box_.userPressed(*button, at); });
+  else
+    report([&] { box_.userReleased(*button, at); });
 }
 
 }  // namespace qrn::qt

@@ -8,11 +8,13 @@
 
 namespace qrn::qt {
 
-/// A list whose entries are ticked by a click anywhere on them, or by Space.
+/// A list whose entries are ticked by a click anywhere on them, or by Space. A release ticks before it is
+/// reported.
 class CheckListWidget final : public QListWidget {
  public:
   explicit CheckListWidget(QWidget* parent);
   std::function<void(int)> onTicked;
+  std::function<void(const QMouseEvent&)> onMouse;
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
@@ -22,6 +24,7 @@ class CheckListWidget final : public QListWidget {
 
  private:
   void tick(int row);
+  void tellMouse(const QMouseEvent& event);
 
   int pressedRow_ = -1;
 };
@@ -36,6 +39,7 @@ class QtListBoxPeer final : public QtEditorPeer {
   void applyContent() override;
   void applyEntries() override;
   void reportTick(int row);
+  void reportMouse(const QMouseEvent& event);
 
   host::ListBox& box_;
   CheckListWidget& list_;
