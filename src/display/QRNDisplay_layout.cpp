@@ -92,7 +92,10 @@ double QRNDisplay::containerWidth() const {
 void QRNDisplay::placeItems(const ColumnWidths& automatic) {
   double y = 0, gap = 0;
   std::int32_t tab = 0;
-  for (const PanelItemPtr& item : *items_) {
+  const WeakRef<host::Control> self(this);
+  // By position: a row that ends its edit when it is placed has listeners, and they may change the items.
+  for (std::int32_t position = 1; self && position <= items_->Count(); ++position) {
+    const PanelItemPtr item = items_->Item(Variant(position));
     host::Control* control = item->control();
     if (!control || !control->Visible()) continue;
     control->SetTabIndex(++tab);
@@ -101,10 +104,10 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
       gap = 0;
     } else {
       y = placeRow(static_cast<QRNEdit&>(*control), automatic, y, gap);
-      gap = GetVerticalSpacing();
+      if (self) gap = GetVerticalSpacing();
     }
   }
-  setUpScrollBar(y);
+  if (self) setUpScrollBar(y);
 }
 
 // Answers where the item ends. Buttons touch each other; rows keep a distance from everything.

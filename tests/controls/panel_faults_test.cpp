@@ -169,5 +169,56 @@ TEST_F(FaultsWhileAdding, AnItemRemovedByTheStateThatItIsGivenKeepsTheState) {
   EXPECT_EQ(items().Count(), 0);
 }
 
+// Laying out hides the editor of a row whose value was made invisible while its drawing was off; that ends
+// the edit, and whoever hears of it may do anything.
+class FaultsWhileLayingOut : public PanelTest {
+ protected:
+  FaultsWhileLayingOut() {
+    for (const char* name : {"A", "B", "C"}) addParameter(name);
+    panel().LayoutControls(false);
+    user->focuses(row(2));
+    row(2).SetRedraw(false);
+    row(2).SetValueVisible(false);
+  }
+  Connection ending(std::function<void()> deed) {
+    return panel().ParameterEndEdit.connect(
+        [this, deed = std::move(deed)](std::int32_t&, bool&) { ++ended, deed(); });
+  }
+  int ended = 0;
+};
+
+TEST_F(FaultsWhileLayingOut, AllItemsMayGo) {
+  const auto connection = ending([this] { items().RemoveAll(); });
+  panel().LayoutControls(false);
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(items().Count(), 0);
+}
+
+TEST_F(FaultsWhileLayingOut, ItemsMayCome) {
+  const auto connection = ending([this] {
+    for (int i = 0; i < 50; ++i) addParameter("");
+  });
+  panel().LayoutControls(false);
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(row(53).TabIndex(), 53);
+}
+
+TEST_F(FaultsWhileLayingOut, ThePanelMayGo) {
+  const auto connection = ending([this] { panel_.reset(); });
+  panel().LayoutControls(false);
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(panel_, nullptr);
+}
+
+TEST_F(FaultsWhileLayingOut, AnErrorLeavesAPanelThatCanBeLaidOutAgain) {
+  {
+    const auto connection = ending([] { RaiseError(kOwnError, "listener"); });
+    EXPECT_EQ(raisedBy([&] { panel().LayoutControls(false); }).number, kOwnError);
+  }
+  panel().LayoutControls(false);
+  EXPECT_TRUE(row(2).Redraw());
+  EXPECT_EQ(row(3).TabIndex(), 3);
+}
+
 }  // namespace
 }  // namespace qrn::test

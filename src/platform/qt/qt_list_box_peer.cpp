@@ -33,6 +33,17 @@ void CheckListWidget::keyPressEvent(QKeyEvent* event) {
     QListWidget::keyPressEvent(event);
 }
 
+// Letters typed in a hurry spell an entry; but the same letter again is no double one, it means the next
+// entry that begins with it.
+void CheckListWidget::keyboardSearch(const QString& search) {
+  const int before = currentRow();
+  QListWidget::keyboardSearch(search);
+  const QListWidgetItem* current = currentItem();
+  if (search.isEmpty() || currentRow() != before || !current || !entryTypedTo) return;
+  if (current->text().startsWith(search, Qt::CaseInsensitive))
+    setCurrentRow(entryTypedTo(search.at(0).unicode()));
+}
+
 void CheckListWidget::mousePressEvent(QMouseEvent* event) {
   pressedRow_ = event->button() == Qt::LeftButton ? row(itemAt(event->pos())) : -1;
   QListWidget::mousePressEvent(event);
@@ -61,6 +72,7 @@ QtListBoxPeer::QtListBoxPeer(QtCanvas& canvas, host::ListBox& box)
       list_(static_cast<CheckListWidget&>(*widget())) {
   bringUpToDate();
   list_.onTicked = [this](int row) { reportTick(row); };
+  list_.entryTypedTo = [this](char32_t letter) { return box_.indexTypedTo(letter); };
   list_.onMouse = [this](const QMouseEvent& event) { reportMouse(event); };
   QObject::connect(&list_, &QListWidget::currentRowChanged, context(),
                    [this](int row) { report([this, row] { box_.userMovedTo(row); }); });
@@ -70,6 +82,7 @@ QtListBoxPeer::~QtListBoxPeer() {
   if (!widget()) return;
   list_.onTicked = nullptr;
   list_.onMouse = nullptr;
+  list_.entryTypedTo = nullptr;
 }
 
 QWidget* QtListBoxPeer::mouseReceiver() const { return widget() ? list_.viewport() : nullptr; }

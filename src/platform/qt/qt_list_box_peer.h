@@ -15,6 +15,10 @@ class CheckListWidget final : public QListWidget {
   explicit CheckListWidget(QWidget* parent);
   std::function<void(int)> onTicked;
   std::function<void(const QMouseEvent&)> onMouse;
+  /// Where a letter leads to from the current entry.
+  std::function<int(char32_t)> entryTypedTo;
+
+  void keyboardSearch(const QString& search) override;
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
