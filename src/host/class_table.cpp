@@ -45,14 +45,17 @@ Variant checked(PropertyType type, const Variant& value) {
   }
 }
 
+std::string forKey(std::string_view key, const RunTimeError& error) {
+  return "Property \"" + std::string(key) + "\": " + error.description();
+}
+
 // Says which key a value was for that is refused.
 template <class Action>
-void forKey(const ClassTable& table, std::string_view key, Action&& action) {
+void readingKey(const ClassTable& table, std::string_view key, Action&& action) {
   try {
     action();
   } catch (const RunTimeError& error) {
-    raiseRunTimeError(kInvalidFileFormat, table.name,
-                      "Property \"" + std::string(key) + "\": " + error.description());
+    raiseRunTimeError(kInvalidFileFormat, table.name, forKey(key, error));
   }
 }
 
@@ -85,28 +88,51 @@ Variant Default::of(const UserControl& control) const {
   }
 }
 
+Default Default::as(PropertyType type) const {
+  Default result = *this;
+  if (from_ == From::Constant) result.value_ = checked(type, value_);
+  return result;
+}
+
 Property Property::stored(std::string_view storedKey, const Default& both) const {
   return stored(storedKey, both, both);
 }
 
-Property Property::stored(std::string_view storedKey, Default onRead, Default onWrite) const {
+Property Property::stored(std::string_view storedKey, const Default& onRead, const Default& onWrite) const {
   Property result = *this;
   result.key = storedKey;
-  result.readDefault = onRead;
-  result.writeDefault = std::move(onWrite);
-  result.fresh = std::move(onRead);
+  result.readDefault = result.fresh = onRead.as(type);
+  result.writeDefault = onWrite.as(type);
   return result;
 }
 
-Property Property::startsAs(Default value) const {
+Property Property::storedAs(PropertyType kept) const {
   Property result = *this;
-  result.fresh = std::move(value);
+  result.storedType = kept;
+  return result;
+}
+
+Property Property::startsAs(const Default& value) const {
+  Property result = *this;
+  result.fresh = value.as(type);
   return result;
 }
 
 Property Property::notifies(Notify when) const {
   Property result = *this;
   result.notify = when;
+  return result;
+}
+
+Property Property::restoredBy(Write arrives) const {
+  Property result = *this;
+  result.restore = arrives;
+  return result;
+}
+
+Property Property::restoredIntoField(Write arrives) const {
+  Property result = restoredBy(arrives);
+  result.intoField = true;
   return result;
 }
 
@@ -117,32 +143,77 @@ const Property* ClassTable::find(std::string_view wanted) const {
   return nullptr;
 }
 
-void restoreProperties(UserControl& control, const PropertyBag& bag) {
-  struct Step {
-    const Property* property;
-    Variant value;
-  };
+namespace {
+
+struct Step {
+  const Property* property;
+  Variant value;
+};
+
+std::vector<Step> stepsFrom(const UserControl& control, const PropertyBag& bag) {
   std::vector<Step> steps;
   const ClassTable& table = control.classTable();
   for (const Property* property : inOrder(table, table.readingOrder)) {
     const Variant* kept = bag.find(property->key);
-    forKey(table, property->key, [&] {
-      steps.push_back({property, kept ? checked(property->type, *kept) : property->readDefault.of(control)});
+    readingKey(table, property->key, [&] {
+      steps.push_back(
+          {property, kept ? checked(property->storedType, *kept) : property->readDefault.of(control)});
     });
   }
-  for (const Step& step : steps) {
-    const Property::Write apply = step.property->restore ? step.property->restore : step.property->write;
-    forKey(table, step.property->key, [&] { apply(control, step.value); });
+  return steps;
+}
+
+std::vector<Step> currentValues(UserControl& control, const std::vector<Step>& steps) {
+  std::vector<Step> result;
+  for (const Step& step : steps) result.push_back({step.property, step.property->read(control)});
+  return result;
+}
+
+void apply(UserControl& control, const Step& step) {
+  const Property::Write arrives = step.property->restore ? step.property->restore : step.property->write;
+  arrives(control, step.value);
+}
+
+// What a bag keeps of a value or of its default.
+Variant asStored(const Property& property, const Variant& value) {
+  return property.storedType == property.type ? value : checked(property.storedType, value);
+}
+
+}  // namespace
+
+void restoreProperties(UserControl& control, const PropertyBag& bag) {
+  const std::vector<Step> steps = stepsFrom(control, bag);
+  const std::vector<Step> before = currentValues(control, steps);
+  try {
+    for (const Step& step : steps)
+      readingKey(control.classTable(), step.property->key, [&] { apply(control, step); });
+  } catch (...) {
+    // All of them, as one setter may well have changed what another property reads.
+    for (const Step& step : before) ignoringErrors([&] { apply(control, step); });
+    throw;
   }
 }
 
 void saveProperties(const UserControl& control, PropertyBag& bag) {
+  struct Entry {
+    std::string_view key;
+    Variant value;
+    Variant whenMissing;
+  };
+  std::vector<Entry> entries;
   const ClassTable& table = control.classTable();
+  // Reading changes nothing that counts; members that read through a child are not const.
+  auto& source = const_cast<UserControl&>(control);
   for (const Property* property : inOrder(table, table.writingOrder)) {
-    // Reading changes nothing that counts; members that read through a child are not const.
-    const Variant value = property->read(const_cast<UserControl&>(control));
-    bag.writeProperty(property->key, value, property->writeDefault.of(control));
+    try {
+      const Variant value = (property->save ? property->save : property->read)(source);
+      entries.push_back({property->key, asStored(*property, value),
+                         asStored(*property, property->writeDefault.of(control))});
+    } catch (const RunTimeError& error) {
+      raiseRunTimeError(error.number(), table.name, forKey(property->key, error));
+    }
   }
+  for (const Entry& entry : entries) bag.writeProperty(entry.key, entry.value, entry.whenMissing);
 }
 
 }  // namespace qrn::host

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "host/font.h"
@@ -110,11 +111,15 @@ class Default {
  public:
   Default() = default;
   Default(Variant value) : value_(std::move(value)) {}
+  template <class T>
+  requires(!std::is_base_of_v<Default, T>) Default(T value) : value_(toVariant(value)) {}
   static Default ambientFont() { return Default(From::Font); }
   static Default ambientBackColor() { return Default(From::BackColor); }
   static Default ambientForeColor() { return Default(From::ForeColor); }
 
   Variant of(const UserControl& control) const;
+  /// A constant as a property of that type has it.
+  Default as(PropertyType type) const;
 
  private:
   enum class From : std::uint8_t { Constant, Font, BackColor, ForeColor };
@@ -134,9 +139,12 @@ struct Property {
   std::string_view name;
   std::int32_t id = 0;
   PropertyType type = PropertyType::Variant;
+  PropertyType storedType = PropertyType::Variant;  // as what a bag keeps it
   Read read = nullptr;
   Write write = nullptr;    // null: read-only
+  Read save = nullptr;      // what a bag keeps; null: what `read` answers
   Write restore = nullptr;  // how a bag's value arrives; null: through `write`
+  bool intoField = false;   // a bag's value arrives without notification and without layout
   std::string_view key;     // empty: not stored
   Default readDefault;
   Default writeDefault;
@@ -144,12 +152,14 @@ struct Property {
   Notify notify = Notify::Never;
 
   Property stored(std::string_view storedKey, const Default& both) const;
-  Property stored(std::string_view storedKey, Default onRead, Default onWrite) const;
-  Property startsAs(Default value) const;
+  Property stored(std::string_view storedKey, const Default& onRead, const Default& onWrite) const;
+  /// Numbers that a bag keeps in fewer bits than the property has. One that does not fit can't be saved.
+  Property storedAs(PropertyType type) const;
+  Property startsAs(const Default& value) const;
   Property notifies(Notify when) const;
-  /// A bag's value goes straight into the field, without notification and without layout.
-  template <auto Field>
-  Property throughField() const;
+  Property restoredBy(Write arrives) const;
+  /// A bag's value goes straight into the field.
+  Property restoredIntoField(Write arrives) const;
 };
 
 struct ClassTable {
@@ -165,76 +175,12 @@ struct ClassTable {
   const Property* find(std::string_view name) const;
 };
 
-/// Checks every value of the bag before the first is applied, so that a refused bag leaves the control as it
-/// was; what only a setter can tell is refused when its turn comes. Errors: 321 naming the key and what was
-/// wrong with its value. Unknown keys are ignored.
+/// All or nothing: every value of the bag is checked before the first is applied, and what was applied before
+/// a setter refused its value is set back. Unknown keys are ignored. Errors: 321 naming the key and what was
+/// wrong with its value.
 void restoreProperties(UserControl& control, const PropertyBag& bag);
+
+/// Errors: 6 naming the key, for a number that its stored type can't hold; the bag is then as it was.
 void saveProperties(const UserControl& control, PropertyBag& bag);
-
-namespace detail {
-
-template <class T>
-struct MemberOf;
-template <class R, class C>
-struct MemberOf<R (C::*)() const> {
-  using Class = C;
-  using Value = std::remove_cvref_t<R>;
-};
-template <class R, class C>
-struct MemberOf<R (C::*)()> : MemberOf<R (C::*)() const> {};
-template <class C, class A>
-struct MemberOf<void (C::*)(A)> {
-  using Class = C;
-  using Value = std::remove_cvref_t<A>;
-};
-template <class C, class V>
-struct MemberOf<V C::*> {
-  using Class = C;
-  using Value = V;
-};
-
-}  // namespace detail
-
-/// A property from its two members; the type follows from what the first one answers.
-template <auto Get, auto Set>
-Property property(std::string_view name, std::int32_t id) {
-  using Member = detail::MemberOf<decltype(Get)>;
-  Property result;
-  result.name = name;
-  result.id = id;
-  result.type = propertyTypeOf<typename Member::Value>();
-  result.notify = Notify::OnChange;
-  result.read = [](UserControl& control) {
-    return toVariant<typename Member::Value>((static_cast<typename Member::Class&>(control).*Get)());
-  };
-  result.write = [](UserControl& control, const Variant& value) {
-    using Owner = typename detail::MemberOf<decltype(Set)>::Class;
-    (static_cast<Owner&>(control).*Set)(fromVariant<typename Member::Value>(value));
-  };
-  return result;
-}
-
-template <auto Get>
-Property readOnly(std::string_view name, std::int32_t id) {
-  using Member = detail::MemberOf<decltype(Get)>;
-  Property result;
-  result.name = name;
-  result.id = id;
-  result.type = propertyTypeOf<typename Member::Value>();
-  result.read = [](UserControl& control) {
-    return toVariant<typename Member::Value>((static_cast<typename Member::Class&>(control).*Get)());
-  };
-  return result;
-}
-
-template <auto Field>
-Property Property::throughField() const {
-  using Member = detail::MemberOf<decltype(Field)>;
-  Property result = *this;
-  result.restore = [](UserControl& control, const Variant& value) {
-    static_cast<typename Member::Class&>(control).*Field = fromVariant<typename Member::Value>(value);
-  };
-  return result;
-}
 
 }  // namespace qrn::host

@@ -28,11 +28,13 @@ class PropertyBag {
   const Variant* find(std::string_view key) const;
   const std::vector<Item>& items() const { return items_; }
 
+  /// Errors: 380 naming the key, for what the text form can't hold: a number that is not finite, a font
+  /// without a size, an object that is neither font nor picture.
   std::string toText() const;
   /// Errors: 321 with `name:line: what` for a text that is no property bag; `name` is used in messages only.
   static PropertyBag fromText(std::string_view text, std::string_view name = "property bag");
 
-  /// Errors: 53 for a file that can't be written or read, 321 as for fromText.
+  /// Errors: 53 for a file that can't be written or read, and those of toText and fromText.
   void save(const std::filesystem::path& file) const;
   static PropertyBag load(const std::filesystem::path& file);
 

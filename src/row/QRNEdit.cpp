@@ -5,6 +5,7 @@
 #include "diag/QRNErrors.h"
 #include "row/focus_watch.h"
 #include "row/icon_tracking.h"
+#include "runtime/rounding.h"
 
 namespace qrn {
 namespace {
@@ -65,6 +66,7 @@ void QRNEdit::SetScaleMode(std::int16_t mode) {
   rescaleParts(before);
   if (auto* composite = compositeEditor()) composite->SetScaleMode(mode);
   applyFont();
+  propertyChanged("ScaleMode");
   layOut();
 }
 
@@ -107,9 +109,7 @@ void QRNEdit::SetFont(host::FontPtr font) {
   layOut();
 }
 
-std::int32_t QRNEdit::widthOf(const host::Control& part) {
-  return static_cast<std::int32_t>(std::nearbyint(part.Width()));
-}
+std::int32_t QRNEdit::widthOf(const host::Control& part) { return nearestLong(std::nearbyint(part.Width())); }
 
 void QRNEdit::setPartWidth(host::Control& part, std::int32_t width, std::string_view key) {
   if (width == widthOf(part)) return;

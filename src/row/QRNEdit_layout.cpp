@@ -2,16 +2,17 @@
 #include <cmath>
 
 #include "row/QRNEdit.h"
+#include "runtime/rounding.h"
 
 namespace qrn {
 namespace {
 
-std::int32_t toLong(double value) { return static_cast<std::int32_t>(std::nearbyint(value)); }
+std::int32_t toLong(double value) { return nearestLong(std::nearbyint(value)); }
 
 // A width that only misses a whole number by what the conversion of scales leaves is that number.
 std::int32_t roundedUp(double value) {
   constexpr double kNoise = 1e-6;
-  return static_cast<std::int32_t>(std::ceil(value - kNoise));
+  return nearestLong(std::ceil(value - kNoise));
 }
 
 void moveTo(host::Control& part, double left, double top) {

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace qrn {
 
@@ -12,6 +13,14 @@ inline double roundHalfEven(double value) {
   if (rest < 0.5) return below;
   if (rest > 0.5) return below + 1;
   return std::fmod(below, 2.0) == 0 ? below : below + 1;
+}
+
+/// A whole number as a Long; one that no Long can hold becomes the nearest that is one.
+inline std::int32_t nearestLong(double whole) {
+  constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  if (!(whole > kLeast)) return kLeast;
+  return whole < kMost ? static_cast<std::int32_t>(whole) : kMost;
 }
 
 /// The divisor must be positive and even.

@@ -88,7 +88,7 @@ struct Change {
 std::vector<Change> changes() {
   const host::FontPtr font = std::make_shared<host::Font>("Serif", 12);
   return {
-      {"ScaleMode", Variant(3), {}, true},
+      {"ScaleMode", Variant(3), {"ScaleMode"}, true},
       {"ValueType", Variant(2), {"ValueType"}, true},
       {"BackColor", Variant(255), {"BackColor"}, false},
       {"ForeColor", Variant(255), {"ForeColor"}, false},
@@ -390,8 +390,8 @@ TEST_F(ARow, RestoresItsFieldsWithoutNotification) {
   bag.writeProperty("ValueFormat", Variant("0.0"));
   notified();
   useBag(bag);
-  // The two that notify always, and those that go through a setter with another value than a new row's.
-  EXPECT_EQ(notified(), (Events{"ValueType", "Font", "LabelText"}));
+  // The three that notify always, and those that go through a setter with another value than a new row's.
+  EXPECT_EQ(notified(), (Events{"ScaleMode", "ValueType", "Font", "LabelText"}));
   EXPECT_EQ(row().HorizontalSpacing(), 7);
   EXPECT_EQ(row().Icon2ButtonMode(), qrnButtonEmbossed);
   EXPECT_EQ(row().ValueFormat(), "0.0");

@@ -1,6 +1,6 @@
-#include "host/class_table.h"
+#include "host/class_table_entries.h"
 
-#include <limits>
+#include <algorithm>
 
 #include "test_control.h"
 
@@ -19,10 +19,18 @@ class Gauge final : public host::UserControl {
   bool Locked() const { return locked_; }
   void SetLocked(bool locked) { set(locked_, locked, "Locked"); }
   std::int16_t Steps() const { return steps_; }
-  void SetSteps(std::int16_t steps) { set(steps_, steps, "Steps"); }
+  void SetSteps(std::int16_t steps) {
+    set(steps_, steps, "Steps");
+    if (tellsOfSteps) propertyChanged("Steps");
+  }
   std::int32_t Range() const { return range_; }
   void SetRange(std::int32_t range) {
     if (range < 0) raiseRunTimeError(kInvalidPropertyValue, "Gauge");
+    // As a setter may well do: half of it is done when it fails.
+    if (range == 13) {
+      range_ = range;
+      raiseRunTimeError(kOverflow, "Gauge");
+    }
     set(range_, range, "Range");
   }
   Mode Style() const { return style_; }
@@ -39,10 +47,17 @@ class Gauge final : public host::UserControl {
   void SetBackColor(host::Color color) { setBackColor(color); }
   const host::PicturePtr& Icon() const { return icon_; }
   void SetIcon(host::PicturePtr icon) { set(icon_, icon, "Icon"); }
+  const host::PicturePtr& Photo() const { return photo_; }
+  void SetPhoto(host::PicturePtr photo) { set(photo_, photo, "Photo"); }
+  std::int32_t Gap() const { return gap_; }
+  void SetGap(std::int32_t gap) { set(gap_, gap, "Gap"); }
+  std::int32_t Depth() const { return inner_.depth; }
+  void SetDepth(std::int32_t depth) { set(inner_.depth, depth, "Depth"); }
   const Variant& Value() const { return value_; }
   void SetValue(const Variant& value) { set(value_, value, "Value"); }
   std::int32_t Count() const { return 3; }
 
+  bool tellsOfSteps = false;
   /// The setters that ran, in order.
   Heard written;
 
@@ -61,35 +76,41 @@ class Gauge final : public host::UserControl {
   double level_ = 0;
   std::string title_;
   host::PicturePtr icon_;
+  host::PicturePtr photo_;
+  std::int32_t gap_ = -1;
+  struct Inner {
+    std::int32_t depth = 2;
+  } inner_;
   Variant value_;
 };
 
 const host::ClassTable& Gauge::table() {
   using host::Default;
-  using host::property;
+  using host::field;
+  using host::setter;
   using C = Gauge;
   static const host::ClassTable table{
       "Gauge",
       "Test.Gauge",
       {
-          property<&C::Locked, &C::SetLocked>("Locked", 1).stored("Locked", Variant(false)),
-          property<&C::Steps, &C::SetSteps>("Steps", 2).stored("Steps", Variant(std::int16_t{10})),
-          property<&C::Range, &C::SetRange>("Range", 3).stored("Range", Variant(100)),
-          property<&C::Style, &C::SetStyle>("Style", 4).stored("Style", Variant(0)),
-          property<&C::Ratio, &C::SetRatio>("Ratio", 5).stored("Ratio", Variant(0.5F)),
-          property<&C::Level, &C::SetLevel>("Level", 6)
-              .stored("Level", Variant(0.0))
-              .throughField<&C::level_>(),
-          property<&C::Title, &C::SetTitle>("Title", 7).stored("Caption", Variant("")),
-          property<&C::Font, &C::SetFont>("Font", 8).stored("Font", Default::ambientFont()),
-          property<&C::BackColor, &C::SetBackColor>("BackColor", 9)
-              .stored("BackColor", Default::ambientBackColor()),
-          property<&C::Icon, &C::SetIcon>("Icon", 10).stored("Icon", Variant()),
-          property<&C::Value, &C::SetValue>("Value", 11).stored("Value", Variant()),
+          setter<&C::Locked, &C::SetLocked>("Locked", 1, false),
+          setter<&C::Steps, &C::SetSteps>("Steps", 2, 10),
+          setter<&C::Range, &C::SetRange>("Range", 3, 100),
+          setter<&C::Style, &C::SetStyle>("Style", 4, Mode::Plain),
+          setter<&C::Ratio, &C::SetRatio>("Ratio", 5, 0.5),
+          field<&C::Level, &C::SetLevel, &C::level_>("Level", 6, 0),
+          host::property<&C::Title, &C::SetTitle>("Title", 7).stored("Caption", ""),
+          setter<&C::Font, &C::SetFont>("Font", 8, Default::ambientFont()),
+          setter<&C::BackColor, &C::SetBackColor>("BackColor", 9, Default::ambientBackColor()),
+          setter<&C::Icon, &C::SetIcon>("Icon", 10, Variant()),
+          setter<&C::Value, &C::SetValue>("Value", 11, Variant()),
           host::readOnly<&C::Count>("Count", 12),
+          host::picture<&C::Photo, &C::SetPhoto>("Photo", 13),
+          setter<&C::Gap, &C::SetGap>("Gap", 14, -1).storedAs(host::PropertyType::Integer),
+          field<&C::Depth, &C::SetDepth, &C::inner_, &Inner::depth>("Depth", 15, 2),
       },
       {"Title", "Caption", "Range", "Locked", "Steps", "Style", "Ratio", "Level", "Font", "BackColor", "Icon",
-       "Value"},
+       "Value", "Photo", "Gap", "Depth"},
       {},
       {},
       {}};
@@ -122,8 +143,9 @@ TEST_F(ClassTables, KnowTheTypeOfEveryProperty) {
   using enum host::PropertyType;
   std::vector<host::PropertyType> types;
   for (const host::Property& one : Gauge::table().properties) types.push_back(one.type);
-  EXPECT_EQ(types, (std::vector<host::PropertyType>{Boolean, Integer, Long, Long, Single, Double, String,
-                                                    Font, Color, Picture, Variant, Long}));
+  EXPECT_EQ(types,
+            (std::vector<host::PropertyType>{Boolean, Integer, Long, Long, Single, Double, String, Font,
+                                             Color, Picture, Variant, Long, Picture, Long, Long}));
 }
 
 TEST_F(ClassTables, ReadAndWriteThroughTheMembers) {
@@ -194,7 +216,8 @@ TEST_F(ClassTables, RestoreWhatWasSaved) {
 TEST_F(ClassTables, RestoreInTheReadingOrderAndFieldsWithoutTheirSetters) {
   gauge->written.clear();
   host::restoreProperties(*gauge, host::PropertyBag());
-  EXPECT_EQ(gauge->written, (Heard{"Title", "Range", "Locked", "Steps", "Style", "Ratio", "Icon", "Value"}));
+  EXPECT_EQ(gauge->written,
+            (Heard{"Title", "Range", "Locked", "Steps", "Style", "Ratio", "Icon", "Value", "Photo", "Gap"}));
 }
 
 TEST_F(ClassTables, IgnoreKeysThatNobodyKnows) {
@@ -221,6 +244,7 @@ TEST_F(ClassTables, RefuseABagWithAWrongValueNamingTheKeyAndLeaveTheControlAsItW
       {"Caption", 5, "Property \"Caption\": Type mismatch"},
       {"Font", 5, "Property \"Font\": Type mismatch"},
       {"Icon", std::make_shared<host::Font>(), "Property \"Icon\": Type mismatch"},
+      {"Gap", 32768, "Property \"Gap\": Overflow"},
       {"Locked", "yes", "Property \"Locked\": Type mismatch"},
   };
   for (const Wrong& wrong : wrongs) {
@@ -242,6 +266,94 @@ TEST_F(ClassTables, NameTheKeyAlsoWhenItIsTheSetterThatRefuses) {
   EXPECT_EQ(errorOf([&] { host::restoreProperties(*gauge, bag); }), 321);
   EXPECT_EQ(refusal([&] { host::restoreProperties(*gauge, bag); }),
             "Property \"Range\": Invalid property value");
+}
+
+TEST_F(ClassTables, SetTheControlBackWhenASetterRefusesInTheMiddle) {
+  const auto icon = std::make_shared<host::Picture>(std::vector<host::Picture::Bitmap>{{1, 1, {5}}});
+  gauge->SetTitle("before");
+  gauge->SetRange(55);
+  gauge->SetLevel(2.5);
+  gauge->SetGap(-40'000);
+  gauge->SetIcon(icon);
+  gauge->SetFont(std::make_shared<host::Font>("Serif", 12));
+  for (const std::int32_t refused : {-1, 13}) {
+    host::PropertyBag bag;
+    bag.writeProperty("Caption", "after");
+    bag.writeProperty("Range", refused);
+    bag.writeProperty("Level", 7.5);
+    EXPECT_EQ(errorOf([&] { host::restoreProperties(*gauge, bag); }), 321);
+    EXPECT_EQ(gauge->Title(), "before");
+    EXPECT_EQ(gauge->Range(), 55);
+    EXPECT_EQ(gauge->Level(), 2.5);
+    EXPECT_EQ(gauge->Gap(), -40'000) << "what no bag could keep comes back as well";
+    EXPECT_EQ(gauge->Icon(), icon);
+    EXPECT_EQ(*gauge->Font(), host::Font("Serif", 12));
+  }
+}
+
+// A listener that throws what is no run-time error is no reason to leave half of a bag behind.
+TEST_F(ClassTables, SetTheControlBackWhateverIsThrown) {
+  struct Interrupted {};
+  class Interrupting final : public headless::HeadlessSite {
+   public:
+    using HeadlessSite::HeadlessSite;
+    void propertyChanged(host::UserControl&, std::string_view key) override {
+      if (std::exchange(armed, false) && key == "Steps") throw Interrupted();
+    }
+    bool armed = false;
+  } interrupting(platform);
+  const auto other = host::create<Gauge>(interrupting);
+  other->tellsOfSteps = true;
+  host::PropertyBag bag;
+  bag.writeProperty("Caption", "after");
+  bag.writeProperty("Steps", std::int16_t{3});
+  interrupting.armed = true;
+  EXPECT_THROW(host::restoreProperties(*other, bag), Interrupted);
+  EXPECT_EQ(other->Title(), "");
+  EXPECT_EQ(other->Steps(), 10);
+}
+
+TEST_F(ClassTables, KeepANumberInTheBitsOfItsStoredType) {
+  gauge->SetGap(7);
+  EXPECT_EQ(saved(*gauge).toText(), "QRNV16Controls2 properties 1\nGap = Integer 7\n");
+  const auto bag = host::PropertyBag::fromText("QRNV16Controls2 properties 1\nGap = Long 8\n");
+  host::restoreProperties(*gauge, bag);
+  EXPECT_EQ(gauge->Gap(), 8);
+}
+
+TEST_F(ClassTables, RefuseToSaveANumberThatItsStoredTypeCanNotHoldAndLeaveTheBagAsItWas) {
+  for (const std::int32_t gap : {32768, -32769, 1'000'000}) {
+    gauge->SetGap(gap);
+    gauge->SetTitle("Tank");
+    host::PropertyBag bag;
+    bag.writeProperty("Caption", "older");
+    EXPECT_EQ(errorOf([&] { gauge->writeProperties(bag); }), 6) << gap;
+    EXPECT_EQ(refusal([&] { gauge->writeProperties(bag); }), "Property \"Gap\": Overflow");
+    EXPECT_EQ(bag.toText(), "QRNV16Controls2 properties 1\nCaption = \"older\"\n");
+  }
+  for (const std::int32_t gap : {32767, -32768}) {
+    gauge->SetGap(gap);
+    EXPECT_EQ(saved(*gauge).readProperty("Gap"), Variant(static_cast<std::int16_t>(gap)));
+  }
+}
+
+TEST_F(ClassTables, KeepAPictureWithoutPixelsNoMoreThanNone) {
+  const auto empty = std::make_shared<host::Picture>(std::vector<host::Picture::Bitmap>{});
+  gauge->SetPhoto(empty);
+  EXPECT_EQ(keys(saved(*gauge)), Heard{});
+  gauge->SetIcon(empty);
+  EXPECT_EQ(keys(saved(*gauge)), Heard{"Icon"}) << "where the two differ, both are kept";
+  gauge->SetPhoto(std::make_shared<host::Picture>(std::vector<host::Picture::Bitmap>{{1, 1, {5}}}));
+  EXPECT_EQ(keys(saved(*gauge)), (Heard{"Icon", "Photo"}));
+}
+
+TEST_F(ClassTables, ReachAFieldInsideAnother) {
+  gauge->written.clear();
+  host::PropertyBag bag;
+  bag.writeProperty("Depth", 9);
+  host::restoreProperties(*gauge, bag);
+  EXPECT_EQ(gauge->Depth(), 9);
+  EXPECT_EQ(std::count(gauge->written.begin(), gauge->written.end(), "Depth"), 0);
 }
 
 TEST_F(ClassTables, ARefusedBagMakesNoControl) {
