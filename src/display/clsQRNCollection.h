@@ -6,11 +6,11 @@
 #include <string>
 #include <string_view>
 
-#include "display/clsHiddenRef.h"
+#include "base/clsHiddenRef.h"
 #include "display/clsQRNAction.h"
 #include "display/clsQRNParam.h"
 #include "enums/enumerations.h"
-#include "runtime/keyed_list.h"
+#include "runtime/selectable_list.h"
 
 namespace qrn {
 
@@ -38,22 +38,9 @@ class clsQRNCollection final : public Object {
   PanelItemPtr Item(const Variant& aSelector) const;
 
   /// Over the items in their order.
-  class Iterator {
-   public:
-    using Inner = decltype(std::declval<const KeyedList<PanelItemPtr>&>().begin());
-    explicit Iterator(Inner at) : at_(at) {}
-    const PanelItemPtr& operator*() const { return (*at_)->value; }
-    Iterator& operator++() {
-      ++at_;
-      return *this;
-    }
-    friend bool operator==(const Iterator&, const Iterator&) = default;
-
-   private:
-    Inner at_;
-  };
-  Iterator begin() const { return Iterator(items_.begin()); }
-  Iterator end() const { return Iterator(items_.end()); }
+  using Iterator = SelectableList<PanelItem>::Iterator;
+  Iterator begin() const { return items_.begin(); }
+  Iterator end() const { return items_.end(); }
 
  private:
   friend class QRNDisplay;
@@ -64,12 +51,10 @@ class clsQRNCollection final : public Object {
   std::shared_ptr<PanelItem> addItem(std::shared_ptr<PanelItem> item, std::string_view progId,
                                      std::string_view prefix, std::string_view name,
                                      const std::optional<Variant>& atPosition);
-  std::string madeKey(std::string_view prefix) const;
-  const PanelItem* objectOf(const Variant& aSelector) const;
   void removeAt(std::int32_t position);
 
-  clsHiddenRef owner_;
-  KeyedList<PanelItemPtr> items_;
+  clsHiddenRef<QRNDisplay> owner_;
+  SelectableList<PanelItem> items_;
 };
 
 }  // namespace qrn

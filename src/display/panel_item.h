@@ -8,7 +8,7 @@
 #include "base/weak_ref.h"
 #include "host/event_args.h"
 #include "host/user_control.h"
-#include "runtime/keyed_list.h"
+#include "runtime/selectable_list.h"
 #include "runtime/variant.h"
 
 namespace qrn {
@@ -25,6 +25,7 @@ class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> 
  protected:
   friend class clsQRNCollection;
   friend class QRNDisplay;
+  friend class SelectableList<PanelItem>;
 
   virtual void SetControl(host::UserControl& control);
   /// Answers whether the item deals with the event; the names are those of the control's events.
@@ -44,12 +45,10 @@ class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> 
   bool commonEvent(QRNDisplay& panel, std::string_view name, host::EventArgs arguments);
 
  private:
-  using Entry = KeyedList<std::shared_ptr<PanelItem>>::Entry;
-
   Variant tag_;
   WeakRef<host::UserControl> control_;
   Connection events_;
-  const Entry* entry_ = nullptr;  // the item's own place in its collection
+  const SelectableList<PanelItem>::Entry* entry_ = nullptr;  // the item's own place in its collection
 };
 
 using PanelItemPtr = std::shared_ptr<PanelItem>;

@@ -323,7 +323,7 @@ TEST_F(ItemCollection, OutlivesItsPanelWithoutReachingIt) {
 }
 
 TEST_F(ItemCollection, AHiddenReferenceKeepsNothingAliveAndKnowsWhenItsTargetHasGone) {
-  clsHiddenRef reference;
+  clsHiddenRef<QRNDisplay> reference;
   EXPECT_EQ(reference.get(), nullptr);
   reference.set(panel_.get());
   EXPECT_EQ(reference.get(), panel_.get());

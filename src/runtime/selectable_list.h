@@ -1,0 +1,93 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "runtime/conversions.h"
+#include "runtime/keyed_list.h"
+#include "runtime/variant.h"
+
+namespace qrn {
+
+/// A keyed list of objects that callers keep too, with entries that a Variant selects: the object itself, its
+/// key, whose case does not count, or its 1-based position. An object has a pointer `entry_` to its own place
+/// here, null while it is in no list, so that finding it costs the same however long the list is.
+template <class T>
+class SelectableList {
+ public:
+  using Pointer = std::shared_ptr<T>;
+  using Entry = typename KeyedList<Pointer>::Entry;
+
+  std::int32_t count() const { return list_.count(); }
+
+  /// Errors: 9 outside 1..count.
+  const Pointer& at(std::int32_t position) const { return list_.at(position).value; }
+
+  /// By key or position. Errors: 5 for an unknown key, 9 for a position outside.
+  const Pointer& at(const Variant& keyOrPosition) const {
+    if (const auto* key = keyOrPosition.get<std::string>()) return list_.at(std::string_view(*key)).value;
+    return list_.at(CLng(keyOrPosition)).value;
+  }
+
+  /// 0 when nothing here is selected.
+  std::int32_t positionOf(const Variant& selector) const {
+    const T* object = nullptr;
+    if (const auto* reference = selector.get<ObjectPtr>())
+      object = dynamic_cast<const T*>(reference->get());
+    else
+      ignoringErrors([&] { object = at(selector).get(); });
+    const std::int32_t position = object && object->entry_ ? object->entry_->position : 0;
+    // It may stand in another list: only that it is found here proves that it is one of ours.
+    const bool ours = position >= 1 && position <= count() && at(position).get() == object;
+    return ours ? position : 0;
+  }
+
+  /// The prefix with the first number above the count that makes no key in use.
+  std::string freeKey(std::string_view prefix) const {
+    std::string key;
+    std::int32_t n = count();
+    do {
+      key = std::string(prefix) + std::to_string(++n);
+    } while (list_.find(key));
+    return key;
+  }
+
+  /// In front of what is selected, or at the end. Errors: 457 for a key in use.
+  void add(std::string key, Pointer object, const std::optional<Variant>& before) {
+    T& added = *object;
+    added.entry_ = &list_.add(std::move(key), std::move(object), before ? positionOf(*before) : 0);
+  }
+
+  /// Errors: 9 outside 1..count.
+  Pointer take(std::int32_t position) {
+    list_.at(position).value->entry_ = nullptr;
+    return list_.take(position);
+  }
+
+  /// Over the objects in their order.
+  class Iterator {
+   public:
+    using Inner = decltype(std::declval<const KeyedList<Pointer>&>().begin());
+    explicit Iterator(Inner at) : at_(at) {}
+    const Pointer& operator*() const { return (*at_)->value; }
+    Iterator& operator++() {
+      ++at_;
+      return *this;
+    }
+    friend bool operator==(const Iterator&, const Iterator&) = default;
+
+   private:
+    Inner at_;
+  };
+  Iterator begin() const { return Iterator(list_.begin()); }
+  Iterator end() const { return Iterator(list_.end()); }
+
+ private:
+  KeyedList<Pointer> list_;
+};
+
+}  // namespace qrn
