@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "host/command_button.h"
 #include "host/user_control.h"
 
 namespace qrn::host {
@@ -22,6 +23,15 @@ std::vector<Control*> chainTo(Control* control) {
 }
 
 UserControl* asUserControl(Control* control) { return dynamic_cast<UserControl*>(control); }
+
+// Alt and the letter of a button's caption press it from wherever the focus is; it comes to the button first.
+bool pressedByMnemonic(const UserControl& root, std::int16_t letter) {
+  const WeakRef<CommandButton> button(buttonOfMnemonic(root, letter));
+  if (!button) return false;
+  button->SetFocus();
+  if (button && button->hasFocus()) button->userClicked();
+  return true;
+}
 
 }  // namespace
 
@@ -192,7 +202,7 @@ bool Input::keyDown(std::int16_t keyCode, std::int16_t shiftState) {
   if (given == key::Tab && (shiftState & (shift::Control | shift::Alt)) == 0) {
     return moveFocus((shiftState & shift::Shift) == 0);
   }
-  return false;
+  return shiftState == shift::Alt && given != 0 && pressedByMnemonic(*root_, given);
 }
 
 bool Input::keyUp(std::int16_t keyCode, std::int16_t shiftState) {

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "host/check_box.h"
 #include "host/combo_box.h"
+#include "host/command_button.h"
 #include "host/list_box.h"
 #include "host/text_box.h"
 #include "host/timer.h"
@@ -18,8 +19,13 @@ Owned<Control> make() {
 }
 
 constexpr ProgId kStandardClasses[] = {
-    {"VB.TextBox", make<TextBox>}, {"VB.CheckBox", make<CheckBox>},     {"VB.ComboBox", make<ComboBox>},
-    {"VB.ListBox", make<ListBox>}, {"VB.VScrollBar", make<VScrollBar>}, {"VB.Timer", make<Timer>},
+    {"VB.TextBox", make<TextBox>},
+    {"VB.CheckBox", make<CheckBox>},
+    {"VB.ComboBox", make<ComboBox>},
+    {"VB.ListBox", make<ListBox>},
+    {"VB.VScrollBar", make<VScrollBar>},
+    {"VB.Timer", make<Timer>},
+    {"VB.CommandButton", make<CommandButton>},
 };
 
 std::span<const ProgId> controlClasses;

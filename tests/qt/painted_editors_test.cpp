@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 
+#include "host/command_button.h"
 #include "picture_of.h"
 
 namespace qrn::qt {
@@ -29,6 +30,17 @@ host::Editor& text(TestPanel& panel) { return panel.text(); }
 host::Editor& check(TestPanel& panel) { return panel.check(); }
 host::Editor& combo(TestPanel& panel) { return panel.combo(); }
 host::Editor& list(TestPanel& panel) { return panel.list(); }
+
+// In the place of the check box.
+host::Editor& button(TestPanel& panel) {
+  if (host::Control* made = panel.controls().find("button")) return static_cast<host::Editor&>(*made);
+  auto* added = new host::CommandButton;
+  panel.controls().add(host::Owned<host::Control>(added), "button", panel.box());
+  panel.check().SetVisible(false);
+  added->Move(TestPanel::kLeft, 68, 90, 26);
+  added->SetCaption("&Apply");
+  return *added;
+}
 
 void lock(TestPanel& panel) {
   panel.text().SetLocked(true);
@@ -78,6 +90,14 @@ const Case kCases[] = {
     {"ComboColoured", [](TestPanel& p) { p.combo().SetForeColor(host::rgb(255, 0, 0)); }, combo},
     {"ComboTooLong", [](TestPanel& p) { p.combo().SetList(0, "a very long entry indeed that is cut off"); },
      combo},
+    {"Button", [](TestPanel&) {}, button},
+    {"ButtonDisabled", [](TestPanel& p) { button(p).SetEnabled(false); }, button},
+    {"ButtonColoured", [](TestPanel& p) { button(p).SetForeColor(host::rgb(0, 0, 255)); }, button},
+    {"ButtonOnAColour", [](TestPanel& p) { button(p).SetBackColor(host::rgb(200, 255, 200)); }, button},
+    {"ButtonBold",
+     [](TestPanel& p) { button(p).SetFont(std::make_shared<host::Font>("DejaVu Sans", 8.25, true)); },
+     button},
+    {"ButtonTooNarrow", [](TestPanel& p) { button(p).SetWidth(24); }, button},
     {"List", [](TestPanel&) {}, list},
     {"ListTicked",
      [](TestPanel& p) {

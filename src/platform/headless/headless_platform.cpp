@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "host/check_box.h"
 #include "host/combo_box.h"
+#include "host/command_button.h"
 #include "host/control.h"
 #include "host/list_box.h"
 #include "host/popup_menu.h"
@@ -87,6 +88,8 @@ void HeadlessPlatform::paintControl(host::Surface& surface, const host::Control&
     state = '"' + combo->Text() + '"';
   } else if (const auto* list = dynamic_cast<const host::ListBox*>(&control)) {
     for (int i = 0; i < list->ListCount(); ++i) state += list->Selected(i) ? '1' : '0';
+  } else if (const auto* button = dynamic_cast<const host::CommandButton*>(&control)) {
+    state = '"' + button->Caption() + '"';
   } else if (const auto* bar = dynamic_cast<const host::VScrollBar*>(&control)) {
     state = std::to_string(bar->Value()) + "/" + std::to_string(bar->Max());
   }

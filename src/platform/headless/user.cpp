@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "host/check_box.h"
 #include "host/combo_box.h"
+#include "host/command_button.h"
 #include "host/list_box.h"
 #include "host/text_box.h"
 #include "host/v_scroll_bar.h"
@@ -112,16 +113,20 @@ void User::pressesAt(Point at, host::MouseButton button) {
     list->userPressed(button, list->fromSurface(at));
   if (button != host::MouseButton::Left || !target) return;
   if (auto* check = dynamic_cast<host::CheckBox*>(target.get())) check->userToggled();
+  if (dynamic_cast<host::CommandButton*>(target.get())) heldByMouse_ = target;
 }
 
 void User::releasesAt(Point at, host::MouseButton button) {
   platform_.setCursor(at);
   const WeakRef<host::Control> widget = std::exchange(pressedWidget_, {});
+  const WeakRef<host::Control> held = std::exchange(heldByMouse_, {});
   auto* list = dynamic_cast<host::ListBox*>(widget.get());
   if (list)
     list->userReleased(button, list->fromSurface(at));
   else
     input().mouseUp(button, host::shift::None, at);
+  // Let go beside it, a push button was not clicked.
+  if (held && held->visibleOnSurface().contains(at)) static_cast<host::CommandButton&>(*held).userClicked();
 }
 
 void User::movesTo(Point at) {
@@ -159,7 +164,7 @@ void User::typeCharacter(char32_t character) {
       typeAhead(focus, remains == given ? character : static_cast<char32_t>(remains));
     }
   }
-  if (surface) input().keyUp(code, shift);
+  if (surface) lets(code, shift);
 }
 
 void User::typeAhead(host::Control* list, char32_t character) {
@@ -183,7 +188,12 @@ void User::holds(std::int16_t keyCode, std::int16_t shift) {
   if (surface && input().focus()) keyInto(*input().focus(), keyCode, shift);
 }
 
-void User::lets(std::int16_t keyCode, std::int16_t shift) { input().keyUp(keyCode, shift); }
+void User::lets(std::int16_t keyCode, std::int16_t shift) {
+  const bool used = input().keyUp(keyCode, shift);
+  if (keyCode != host::key::Space) return;
+  const WeakRef<host::Control> held = std::exchange(heldBySpace_, {});
+  if (!used && held && held->hasFocus()) static_cast<host::CommandButton&>(*held).userClicked();
+}
 
 void User::keyInto(host::Control& editor, std::int16_t keyCode, std::int16_t shift) {
   if (auto* box = dynamic_cast<host::TextBox*>(&editor)) {
@@ -193,6 +203,9 @@ void User::keyInto(host::Control& editor, std::int16_t keyCode, std::int16_t shi
       keyIntoText(*box, keyCode, shift);
   } else if (auto* check = dynamic_cast<host::CheckBox*>(&editor)) {
     if (keyCode == host::key::Space) check->userToggled();
+  } else if (auto* button = dynamic_cast<host::CommandButton*>(&editor)) {
+    if (keyCode == host::key::Space) heldBySpace_ = WeakRef<host::Control>(button);
+    if (keyCode == host::key::Enter) button->userClicked();
   } else if (auto* combo = dynamic_cast<host::ComboBox*>(&editor)) {
     combo->userSelected(movedIndex(*combo, keyCode));
   } else if (auto* list = dynamic_cast<host::ListBox*>(&editor)) {

@@ -61,6 +61,9 @@ class User {
   HeadlessPlatform& platform_;
   host::UserControl& surface_;
   WeakRef<host::Control> pressedWidget_;  // has a native widget, which follows the mouse until the release
+  // The push buttons that the left mouse button and the space bar hold down.
+  WeakRef<host::Control> heldByMouse_;
+  WeakRef<host::Control> heldBySpace_;
 };
 
 }  // namespace qrn::headless

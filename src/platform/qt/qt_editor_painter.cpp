@@ -10,6 +10,7 @@
 
 #include "host/check_box.h"
 #include "host/combo_box.h"
+#include "host/command_button.h"
 #include "host/list_box.h"
 #include "host/text_box.h"
 #include "host/user_control.h"
@@ -108,6 +109,8 @@ void QtEditorPainter::paint(QtSurface& surface, const host::Control& control) {
     paintCheck(painter, place, *check);
   else if (const auto* combo = dynamic_cast<const host::ComboBox*>(&control))
     paintCombo(painter, place, *combo);
+  else if (const auto* button = dynamic_cast<const host::CommandButton*>(&control))
+    paintButton(painter, place, *button);
   else if (const auto* list = dynamic_cast<const host::ListBox*>(&control))
     paintList(painter, place, *list);
   else if (const auto* bar = dynamic_cast<const host::VScrollBar*>(&control))
@@ -201,6 +204,24 @@ void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const ho
   painter.setFont(font);
   painter.setPen(textColor(palette, box.Enabled()));
   style().drawControl(QStyle::CE_ComboBoxLabel, &option, &painter);
+}
+
+void QtEditorPainter::paintButton(QPainter& painter, const QRect& place, const host::CommandButton& button) {
+  const QFont& font = platform_.metrics(*button.Font()).font();
+  QStyleOptionButton option;
+  setState(option, place, platform_.palettes().of(button), button.Enabled());
+  option.state |= QStyle::State_Raised;
+  option.fontMetrics = QFontMetrics(font);
+  option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_ButtonIconSize, &option);
+  paintFrame(painter, place, button, 'b', button.Enabled() ? 1 : 0, [&](QPainter& into, const QRect& at) {
+    QStyleOptionButton frame = option;
+    frame.rect = at;
+    style().drawControl(QStyle::CE_PushButtonBevel, &frame, &into);
+  });
+  option.text = toQString(button.Caption());
+  option.rect = style().subElementRect(QStyle::SE_PushButtonContents, &option);
+  painter.setFont(font);
+  style().drawControl(QStyle::CE_PushButtonLabel, &option, &painter);
 }
 
 void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const host::ListBox& list) {

@@ -13,6 +13,7 @@ class QPainter;
 namespace qrn::host {
 class CheckBox;
 class ComboBox;
+class CommandButton;
 class Control;
 class Editor;
 class ListBox;
@@ -43,6 +44,7 @@ class QtEditorPainter {
   void paintText(QPainter& painter, const QRect& place, const host::TextBox& box);
   void paintCheck(QPainter& painter, const QRect& place, const host::CheckBox& box);
   void paintCombo(QPainter& painter, const QRect& place, const host::ComboBox& box);
+  void paintButton(QPainter& painter, const QRect& place, const host::CommandButton& button);
   void paintList(QPainter& painter, const QRect& place, const host::ListBox& list);
   void paintScrollBar(QPainter& painter, const QRect& place, const host::VScrollBar& bar);
   void paintFrame(QPainter& painter, const QRect& place, const host::Editor& editor, char kind, int state,

@@ -4,6 +4,7 @@
 
 #include "host/check_box.h"
 #include "host/combo_box.h"
+#include "host/command_button.h"
 #include "platform/qt/qt_color.h"
 #include "platform/qt/qt_platform.h"
 
@@ -23,7 +24,8 @@ host::Color backgroundOf(const host::Editor& editor, QPalette::ColorRole role, c
 const QPalette& QtPalettes::of(const host::Editor& editor) {
   const auto* combo = dynamic_cast<const host::ComboBox*>(&editor);
   // A locked drop list has nothing to press and looks like a text.
-  const QPalette::ColorRole role = combo && !combo->Locked() ? QPalette::Button : QPalette::Base;
+  const bool pressable = (combo && !combo->Locked()) || dynamic_cast<const host::CommandButton*>(&editor);
+  const QPalette::ColorRole role = pressable ? QPalette::Button : QPalette::Base;
   const host::Color back = backgroundOf(editor, role, platform_);
   const host::Color wish = platform_.resolve(editor.textColor());
   const host::Color text = editor.Enabled() ? host::readableOn(wish, back) : wish;

@@ -13,6 +13,7 @@
 #include "platform/qt/qt_check_box_peer.h"
 #include "platform/qt/qt_color.h"
 #include "platform/qt/qt_combo_box_peer.h"
+#include "platform/qt/qt_command_button_peer.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_list_box_peer.h"
 #include "platform/qt/qt_menu.h"
@@ -81,6 +82,8 @@ std::unique_ptr<host::Peer> QtPlatform::realise(host::Control& control) {
     return std::make_unique<QtComboBoxPeer>(*canvas, *box);
   if (auto* list = dynamic_cast<host::ListBox*>(&control))
     return std::make_unique<QtListBoxPeer>(*canvas, *list);
+  if (auto* button = dynamic_cast<host::CommandButton*>(&control))
+    return std::make_unique<QtCommandButtonPeer>(*canvas, *button);
   if (auto* bar = dynamic_cast<host::VScrollBar*>(&control))
     return std::make_unique<QtScrollBarPeer>(*canvas, *bar);
   return nullptr;

@@ -1,0 +1,48 @@
+#include "host/command_button.h"
+
+#include "host/container_control.h"
+
+namespace qrn::host {
+namespace {
+
+// What key code a character has: only letters and digits have one that is the same on every keyboard.
+std::int16_t keyCodeOf(char character) {
+  if (character >= 'a' && character <= 'z') return static_cast<std::int16_t>(character - 'a' + 'A');
+  const bool itself = (character >= 'A' && character <= 'Z') || (character >= '0' && character <= '9');
+  return itself ? static_cast<std::int16_t>(character) : std::int16_t{0};
+}
+
+}  // namespace
+
+void CommandButton::SetCaption(std::string_view caption) {
+  if (caption == caption_) return;
+  caption_ = caption;
+  touched(Aspect::Content);
+}
+
+std::int16_t CommandButton::mnemonic() const {
+  for (std::size_t at = 0; at + 1 < caption_.size(); ++at) {
+    if (caption_[at] != '&') continue;
+    if (caption_[++at] != '&') return keyCodeOf(caption_[at]);
+  }
+  return 0;
+}
+
+void CommandButton::userClicked() {
+  if (Enabled()) raise(Click, "Click");
+}
+
+CommandButton* buttonOfMnemonic(const ContainerControl& container, std::int16_t letter) {
+  for (Control* control : container.contained()) {
+    if (!control->Visible()) continue;
+    if (auto* button = dynamic_cast<CommandButton*>(control);
+        button && button->Enabled() && button->mnemonic() == letter)
+      return button;
+    if (const auto* inner = dynamic_cast<const ContainerControl*>(control)) {
+      if (CommandButton* found = buttonOfMnemonic(*inner, letter)) return found;
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace qrn::host
