@@ -24,10 +24,12 @@ void QRNDisplay::initialize() {
   contain(imgClose_, *this, "imgClose");
   contain(pbxContainer_, *this, "pbxContainer");
   contain(sbrVertical_, *this, "sbrVertical");
+  contain(buttonsContainer_, *this, "m_ButtonsContainer");
   imgMaxRst_.Move(0, 0, kTitleButton, kTitleButton);
   imgClose_.Move(0, 0, kTitleButton, kTitleButton);
   sbrVertical_.SetVisible(false);
   sbrVertical_.SetMax(0);
+  buttonsContainer_.SetVisible(false);
   items_->SetDisplay(*this);
   Move(0, 0, 480, 360);
 }
@@ -72,6 +74,7 @@ void QRNDisplay::SetFont(host::FontPtr font) {
   if (font && *font == *this->font()) return;
   setFont(std::move(font));
   lblTitle_.fontChanged();
+  for (host::Control* button : buttonsContainer_.contained()) button->fontChanged();
   propertyChanged("Font");
   arrange();
 }
@@ -154,16 +157,26 @@ std::int32_t QRNDisplay::GetActiveItem(bool bAcceptMouseHit) {
   return found;
 }
 
+// The items come first, then the buttons of the footer, each kind in the order of its tab indices.
 host::Control* QRNDisplay::nextTabStop(host::Control* from, bool forward) {
-  while (from && from->Container() != &pbxContainer_) from = from->Container();
+  const auto isTop = [&](const host::Control* c) {
+    return c->Container() == &pbxContainer_ || c->Container() == &buttonsContainer_;
+  };
+  while (from && !isTop(from)) from = from->Container();
   std::vector<host::Control*> stops;
-  for (const PanelItemPtr& item : *items_) {
-    host::Control* control = item->control();
-    if (control && control->Visible() && (control == from || control->focusTarget()))
-      stops.push_back(control);
-  }
-  std::stable_sort(stops.begin(), stops.end(),
-                   [](const auto* a, const auto* b) { return a->TabIndex() < b->TabIndex(); });
+  const auto addSorted = [&](auto controls) {
+    const auto first = static_cast<std::ptrdiff_t>(stops.size());
+    for (host::Control* control : controls) {
+      if (control && control->Visible() && (control == from || control->focusTarget()))
+        stops.push_back(control);
+    }
+    std::stable_sort(stops.begin() + first, stops.end(),
+                     [](const auto* a, const auto* b) { return a->TabIndex() < b->TabIndex(); });
+  };
+  std::vector<host::Control*> items;
+  for (const PanelItemPtr& item : *items_) items.push_back(item->control());
+  addSorted(std::move(items));
+  if (hasButtons()) addSorted(buttonsContainer_.contained());
   if (!forward) std::reverse(stops.begin(), stops.end());
   const auto at = std::find(stops.begin(), stops.end(), from);
   const auto next = at == stops.end() ? stops.begin() : std::next(at);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/weak_ref.h"
+#include "buttons/clsQRNButtons.h"
 #include "display/clsQRNCollection.h"
 #include "display/column_layout.h"
 #include "enums/enumerations.h"
@@ -16,20 +17,23 @@
 
 namespace qrn {
 
-/// A panel of parameter rows and action buttons, with a title bar, a frame and a scroll bar.
+/// A panel of parameter rows and action buttons, with a title bar, a frame, a scroll bar and a footer of push
+/// buttons.
 /// Lengths are in pixels; −1 as a spacing or height means one that follows from the font.
-class QRNDisplay final : public host::UserControl {
+class QRNDisplay final : public host::UserControl, public host::CallTarget, private ButtonsPanel {
  public:
   QRNDisplay();
   ~QRNDisplay() override;
   std::string_view typeName() const override { return "QRNDisplay"; }
   const host::ClassTable& classTable() const override;
+  Anchor& anchor() override { return UserControl::anchor(); }
 
   const Variant& ExtraData() const { return extraData_; }
   void SetExtraData(const Variant& data) { extraData_ = data; }
   clsQRNCollection& Items() { return *items_; }
   host::Controls& ControlsCollection() { return controls(); }
   host::PictureBox& ControlsContainer() { return pbxContainer_; }
+  host::PictureBox& ButtonsContainer() override { return buttonsContainer_; }
   /// The panel's own list, made when it is first read, unless the caller has set another one.
   QRNImageList& ImageList();
   void SetImageList(QRNImageList* list) { imageList_ = WeakRef<QRNImageList>(list); }
@@ -95,10 +99,12 @@ class QRNDisplay final : public host::UserControl {
   /// Whether the title bar looks active.
   bool Active() const { return active_; }
   void SetActive(bool active) { store(active_, active, "Active", After::TitleLook); }
+  /// The buttons of the footer, made when they are first read: without any there is no footer.
+  clsQRNButtons& Buttons();
   /// 0 left, 1 right, 2 centre.
   std::int32_t ButtonsAlignment() const { return buttonsAlignment_; }
   void SetButtonsAlignment(std::int32_t alignment) {
-    store(buttonsAlignment_, alignment, "ButtonsAlignment", After::Nothing);
+    store(buttonsAlignment_, alignment, "ButtonsAlignment", After::LayoutButtons);
   }
 
   /// Content taller than the 16 bits of the classic scroll range raises error 6 after everything has been
@@ -109,6 +115,8 @@ class QRNDisplay final : public host::UserControl {
   void RemoveControls();
   /// Stacks the items; True lays out only if a row has become too narrow, or all of a column too wide.
   void LayoutControls(bool bAdjustParamsOnly);
+  /// Places the footer's buttons in a row; where it is too short, the first ones give up width first.
+  void LayoutButtons();
   /// Weights above 0 share the room that the others, as wide as they need to be, leave. The tolerance's
   /// integer part is the absolute slack of those, its fraction the relative one.
   void SetColumnLayout(std::int32_t nLabelWeight, std::int32_t nValueWeight, std::int32_t nUnitWeight,
@@ -139,6 +147,8 @@ class QRNDisplay final : public host::UserControl {
   Event<std::int32_t&> ParameterStartEdit;
   Event<std::int32_t&, bool&> ParameterEndEdit;
   Event<std::int32_t&> ParameterStatusChange;
+  Event<std::int32_t&> ButtonLayout;
+  Event<std::int32_t&> ButtonClick;
   Event<std::int16_t&, std::int16_t&> KeyDown;
   Event<std::int16_t&> KeyPress;
   Event<std::int16_t&, std::int16_t&> KeyUp;
@@ -189,7 +199,7 @@ class QRNDisplay final : public host::UserControl {
   friend class PanelItem;
   friend struct QRNDisplayTable;
 
-  enum class After : std::uint8_t { Nothing, Repaint, Arrange, TitleLook };
+  enum class After : std::uint8_t { Nothing, Repaint, Arrange, LayoutButtons, TitleLook };
   template <class T>
   void store(T& field, const T& value, std::string_view key, After after) {
     if (field == value) return;
@@ -199,6 +209,8 @@ class QRNDisplay final : public host::UserControl {
       invalidate();
     else if (after == After::Arrange)
       arrange();
+    else if (after == After::LayoutButtons)
+      LayoutButtons();
     else if (after == After::TitleLook)
       applyTitleLook();
   }
@@ -213,6 +225,18 @@ class QRNDisplay final : public host::UserControl {
   void applyScroll();
   double containerWidth() const;
   std::int32_t scrollNumber(double value) const;
+
+  // ---- the footer (QRNDisplay_buttons.cpp) ----
+  bool hasButtons() const { return buttons_ && buttons_->Count() > 0; }
+  double firstButtonHeight() const;
+  double arrangeButtons();
+  host::UserControl& control() override { return *this; }
+  std::unique_ptr<host::CallPoster> makePoster() override;
+  void buttonNeedsLayout(std::int32_t index) override { raise(ButtonLayout, "ButtonLayout", index); }
+  void buttonClicked(std::int32_t index) override { raise(ButtonClick, "ButtonClick", index); }
+  void buttonsChanged() override;
+  /// A call posted to the panel itself.
+  void Callback(Variant& Code) override;
 
   // ---- events (QRNDisplay_events.cpp) ----
   void raiseItem(Event<std::int32_t&>& event, std::string_view name, const PanelItem& item);
@@ -236,7 +260,9 @@ class QRNDisplay final : public host::UserControl {
   host::Image imgClose_;
   host::PictureBox pbxContainer_;
   host::VScrollBar sbrVertical_;
+  host::PictureBox buttonsContainer_;
   std::shared_ptr<clsQRNCollection> items_;
+  std::unique_ptr<clsQRNButtons> buttons_;
   WeakRef<QRNImageList> imageList_;
 
   Variant extraData_;

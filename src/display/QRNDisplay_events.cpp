@@ -109,7 +109,7 @@ void QRNDisplay::clickOn(host::Control& child) {
     if (!iconCloseHidden_) raise(DisplayClose, "DisplayClose");
   } else if (&child == &imgMaxRst_) {
     toggleMaximized();
-  } else if (&child == &lblTitle_ || &child == &pbxContainer_) {
+  } else if (&child == &lblTitle_ || &child == &pbxContainer_ || &child == &buttonsContainer_) {
     passiveClick();
   }
 }
@@ -132,6 +132,8 @@ void QRNDisplay::childChanged(host::Control& child) {
     applyScroll();
   else if (&child == &pbxContainer_)
     LayoutControls(false);
+  else if (&child == &buttonsContainer_)
+    LayoutButtons();
 }
 
 }  // namespace qrn

@@ -35,7 +35,8 @@ void QRNDisplay::arrange() {
   if (!redraw_) return;
   titleHeight_ = titleStyle_ == qrnTitleNone ? 0 : arrangeTitle();
   const double width = rounded(ScaleWidth() - leftMargin_ - rightMargin_);
-  const double height = rounded(ScaleHeight() - titleHeight_ - topMargin_ - bottomMargin_);
+  const double below = arrangeButtons();
+  const double height = rounded(ScaleHeight() - titleHeight_ - topMargin_ - below);
   pbxContainer_.Move(leftMargin_, titleHeight_ + topMargin_, std::max(width, 1.0), std::max(height, 1.0));
   const double bar = platform().scrollBarWidth();
   sbrVertical_.Move(pbxContainer_.bounds().right() - bar, pbxContainer_.Top(), bar, pbxContainer_.Height());

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QWidget>
@@ -130,6 +131,92 @@ TEST_F(PanelOnQt, LosesNoWidgetWhenTheFocusedRowIsRemoved) {
 TEST_F(PanelOnQt, HidesTheScrollBarWhenEverythingFits) {
   panel->RemoveControls();
   EXPECT_EQ(widgets(), 0);
+}
+
+// ---- the footer ----
+
+class FooterOnQt : public PanelOnQt {
+ protected:
+  FooterOnQt() {
+    for (const char* caption : {"&OK", "&Apply", "&Cancel"}) panel->Buttons().AddButton("", caption);
+    settle();
+    listening_ = panel->ButtonClick.connect([this](std::int32_t& index) { clicked.push_back(index); });
+  }
+
+  host::CommandButton& button(int position) { return panel->Buttons().Item(Variant(position))->Control(); }
+  QWidget* keyboard() const { return QApplication::focusWidget(); }
+  using Clicked = std::vector<std::int32_t>;
+  /// Nothing has arrived when the handlers of what the user did have returned; one click is still posted.
+  void expectLater(int position) {
+    EXPECT_EQ(clicked, Clicked{});
+    settle();
+    EXPECT_EQ(std::exchange(clicked, {}), Clicked{position});
+  }
+
+  Clicked clicked;
+
+ private:
+  Connection listening_;
+};
+
+TEST_F(FooterOnQt, HasNoWidgetsUntilAButtonGetsTheFocus) {
+  EXPECT_EQ(widgets(), 1);
+  clicks(button(2));
+  EXPECT_NE(only<QPushButton>(), nullptr);
+  clicks(*row(1).CurrentEditor());
+  EXPECT_EQ(only<QPushButton>(), nullptr);
+}
+
+TEST_F(FooterOnQt, AClickOfTheMouseArrivesOnceAndLater) {
+  clicks(button(2));
+  expectLater(2);
+  // The second one goes straight to the widget.
+  QTest::mouseClick(only<QPushButton>(), Qt::LeftButton);
+  expectLater(2);
+}
+
+TEST_F(FooterOnQt, AClickOfTheKeyboardArrivesOnceAndLater) {
+  button(1).SetFocus();
+  QTest::keyClick(keyboard(), Qt::Key_Space);
+  expectLater(1);
+  QTest::keyClick(keyboard(), Qt::Key_Return);
+  expectLater(1);
+  QTest::keyClick(keyboard(), Qt::Key_Enter);
+  expectLater(1);
+}
+
+TEST_F(FooterOnQt, AltAndTheLetterClickFromARowBeingEditedAndFromTheButtonItself) {
+  clicks(*row(1).CurrentEditor());
+  QTest::keyClick(keyboard(), Qt::Key_A, Qt::AltModifier);
+  expectLater(2);
+  QTest::keyClick(keyboard(), Qt::Key_A, Qt::AltModifier);
+  expectLater(2);
+  EXPECT_TRUE(button(2).hasFocus());
+}
+
+TEST_F(FooterOnQt, AButtonClicksItselfWhenItsTimeHasRunOut) {
+  panel->Buttons().Item(Variant(3))->SetAutoFireDelay(1);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !clicked.empty(); }, 5000));
+  EXPECT_EQ(clicked, Clicked{3});
+}
+
+TEST_F(FooterOnQt, ThePanelMayGoInsideAClick) {
+  const auto closing = panel->ButtonClick.connect([this](std::int32_t&) { panel.reset(); });
+  clicks(button(1));
+  EXPECT_TRUE(panel);
+  settle();
+  EXPECT_FALSE(panel);
+}
+
+TEST_F(FooterOnQt, TabGoesFromTheLastRowToTheFirstButtonAndOutBehindTheLast) {
+  row(kRows).SetFocus();
+  QTest::keyClick(keyboard(), Qt::Key_Tab);
+  EXPECT_TRUE(button(1).hasFocus());
+  QTest::keyClick(keyboard(), Qt::Key_Tab);
+  QTest::keyClick(keyboard(), Qt::Key_Tab);
+  EXPECT_TRUE(button(3).hasFocus());
+  QTest::keyClick(keyboard(), Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(button(2).hasFocus());
 }
 
 }  // namespace
