@@ -12,6 +12,19 @@ namespace {
 // The entries of a row's context menu, as they are numbered.
 enum RowMenu : std::int16_t { kHelp = 1, kDefault = 2 };
 
+// The buttons of the footer in their order. A dot keeps their names apart from those in descriptions.
+struct FooterButton {
+  const char* name;
+  const char* caption;
+};
+constexpr FooterButton kFooter[] = {
+    {"footer.OK", "&OK"}, {"footer.Apply", "&Apply"}, {"footer.Cancel", "&Cancel"}};
+constexpr std::int32_t kCancel = 3;
+
+std::string counted(int count, const std::string& what) {
+  return std::to_string(count) + (count == 1 ? " value " : " values ") + what;
+}
+
 }  // namespace
 
 // ---- one panel ----
@@ -29,9 +42,10 @@ MenuPanel::MenuPanel(const edd::Description& description, const edd::Menu& menu,
   hear(panel.ParameterLayout, [this](std::int32_t& item) { layOutRow(item); });
   hear(panel.ActionLayout, [this](std::int32_t& item) { layOutAction(item); });
   hear(panel.ParameterStartEdit, [this](std::int32_t& item) { edited_ = item; });
-  hear(panel.ParameterEndEdit, [this](std::int32_t& item, bool& changed) { endEdit(item, changed); });
+  hear(panel.ParameterEndEdit, [this](std::int32_t&, bool&) { edited_ = 0; });
   hear(panel.ParameterIcon2Click, [this](std::int32_t& item) { tell(variableOf(item).help); });
   hear(panel.ActionClick, [this](std::int32_t& item) { act(item); });
+  hear(panel.ButtonClick, [this](std::int32_t& button) { pressed(button); });
   hear(panel.ItemMenuClick, [this](std::int32_t& item, std::int16_t& chosen) { chooseInMenu(item, chosen); });
   build();
 }
@@ -49,8 +63,13 @@ void MenuPanel::build() {
       case edd::ItemKind::Method: display_->Items().AddAction(name, ddtypeMethod); break;
     }
   }
+  buildFooter();
   refresh(false);
   display_->SetColumnLayout(0, 0, 0, 10.2F);
+}
+
+void MenuPanel::buildFooter() {
+  for (const FooterButton& button : kFooter) display_->Buttons().AddButton(button.name, button.caption);
 }
 
 clsQRNParam& MenuPanel::parameter(std::int32_t item) {
@@ -120,18 +139,51 @@ void MenuPanel::refresh(bool dynamicOnly) {
   display_->LayoutControls(true);
 }
 
-void MenuPanel::endEdit(std::int32_t item, bool changed) {
-  edited_ = 0;
-  if (changed && parameter(item).ParamError() == qrnErrorNone) storeValue(item);
+// ---- the footer ----
+
+void MenuPanel::pressed(std::int32_t button) {
+  if (button == kCancel)
+    undo();
+  else
+    apply();
 }
 
-// A good value goes to the device at once, and what the device has made of it comes back.
+bool MenuPanel::isEdited(std::int32_t item) {
+  return row(item) && (parameter(item).ParamState() & qrnStateChanged) != 0;
+}
+
+// Good values go to the device; a wrong one stays in its row to be corrected.
+void MenuPanel::apply() {
+  int written = 0, wrong = 0;
+  for (std::int32_t item = 1; item <= display_->Items().Count(); ++item) {
+    if (!isEdited(item)) continue;
+    const bool good = parameter(item).ParamError() == qrnErrorNone;
+    ++(good ? written : wrong);
+    if (good) storeValue(item);
+  }
+  tell(wrong == 0 ? counted(written, "written")
+                  : counted(written, "written, ") + std::to_string(wrong) + " to be corrected");
+}
+
+void MenuPanel::undo() {
+  int undone = 0;
+  for (std::int32_t item = 1; item <= display_->Items().Count(); ++item) {
+    if (!isEdited(item)) continue;
+    showStored(item);
+    ++undone;
+  }
+  tell(counted(undone, "put back"));
+}
+
 void MenuPanel::storeValue(std::int32_t item) {
-  const edd::Variable& variable = variableOf(item);
-  QRNEdit& row = parameter(item).Control();
-  device_.write(entry(item).index, fromRow(variable, row.Value()));
-  row.SetValueChanged(false);
-  parameter(item).SetParamValue(toRow(variable, device_.read(entry(item).index)));
+  device_.write(entry(item).index, fromRow(variableOf(item), row(item)->Value()));
+  showStored(item);
+}
+
+// What the device has made of it.
+void MenuPanel::showStored(std::int32_t item) {
+  row(item)->SetValueChanged(false);
+  parameter(item).SetParamValue(toRow(variableOf(item), device_.read(entry(item).index)));
 }
 
 void MenuPanel::act(std::int32_t item) {
@@ -148,7 +200,7 @@ void MenuPanel::chooseInMenu(std::int32_t item, std::int16_t chosen) {
   if (chosen == kHelp) tell(variable.help);
   if (chosen != kDefault || (parameter(item).ParamState() & qrnStateReadOnly) != 0) return;
   device_.write(entry(item).index, defaultOf(variable));
-  parameter(item).SetParamValue(toRow(variable, device_.read(entry(item).index)));
+  showStored(item);
 }
 
 void MenuPanel::tell(const std::string& text) {

@@ -14,7 +14,7 @@
 namespace qrn::eddpanel {
 
 /// One menu of a description as a panel, made with the library's public interface only: variables are rows,
-/// methods and submenus are action buttons.
+/// methods and submenus are action buttons. What the user has edited goes to the device with OK or Apply.
 class MenuPanel {
  public:
   MenuPanel(const edd::Description& description, const edd::Menu& menu, Device& device, host::Site& site);
@@ -38,10 +38,15 @@ class MenuPanel {
 
  private:
   void build();
+  void buildFooter();
   void layOutRow(std::int32_t item);
   void layOutAction(std::int32_t item);
-  void endEdit(std::int32_t item, bool changed);
+  void pressed(std::int32_t button);
+  void apply();
+  void undo();
+  bool isEdited(std::int32_t item);
   void storeValue(std::int32_t item);
+  void showStored(std::int32_t item);
   void act(std::int32_t item);
   void tell(const std::string& text);
   void chooseInMenu(std::int32_t item, std::int16_t entry);

@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include "base/text.h"
+
 namespace qrn::eddpanel {
 namespace {
 
@@ -40,6 +42,10 @@ void EventPrinter::print(MenuPanel& panel, std::string_view name, host::EventArg
     const std::int32_t item = arguments[0].asLong();
     out_ << ' ' << panel.entry(item).name;
     if (QRNEdit* row = panel.row(item); row && !row->Password()) out_ << " = \"" << row->ValueText() << '"';
+  }
+  if (name.starts_with("Button") && !arguments.empty()) {
+    const auto button = panel.display().Buttons().Item(Variant(arguments[0].asLong()));
+    out_ << ' ' << text::replaced(button->Control().Caption(), "&", "");
   }
   out_ << std::endl;
 }

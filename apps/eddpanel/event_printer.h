@@ -9,7 +9,7 @@
 namespace qrn::eddpanel {
 
 /// Prints every event of the panels with the names of the items concerned, for instance
-/// `Basic setup: ParameterEndEdit(7, True) damping = "2.50"`.
+/// `Basic setup: ParameterEndEdit(7, True) damping = "2.5"`.
 class EventPrinter {
  public:
   explicit EventPrinter(std::ostream& out) : out_(out) {}

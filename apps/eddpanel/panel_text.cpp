@@ -64,6 +64,10 @@ void printPanel(std::ostream& out, MenuPanel& panel) {
       out << (isMenu ? "  > " : "  ! ") << button.Caption() << '\n';
     }
   }
+  out << ' ';
+  for (const ButtonPtr& button : panel.display().Buttons())
+    out << " (" << text::replaced(button->Control().Caption(), "&", "") << ')';
+  out << '\n';
 }
 
 }  // namespace qrn::eddpanel

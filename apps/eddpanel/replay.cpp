@@ -102,9 +102,17 @@ void Replay::open(const std::string& name) {
 
 host::Control& Replay::item(const std::string& name) {
   const std::int32_t position = panel().itemOf(name);
+  if (host::Control* button = position == 0 ? footerButton(name) : nullptr) return *button;
   if (position == 0) refuse("panel \"" + panel().menu().label + "\" has no item \"" + name + '"');
   if (QRNEdit* found = panel().row(position)) return *found;
   return static_cast<clsQRNAction&>(*panel().display().Items().Item(Variant(position))).Control();
+}
+
+host::Control* Replay::footerButton(const std::string& caption) {
+  for (const ButtonPtr& button : panel().display().Buttons()) {
+    if (text::replaced(button->Control().Caption(), "&", "") == caption) return &button->Control();
+  }
+  return nullptr;
 }
 
 QRNEdit& Replay::row(const std::string& name) {

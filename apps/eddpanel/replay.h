@@ -23,6 +23,7 @@ class ReplayError : public std::runtime_error {
 ///     panel "Basic setup"        opens a panel by its label or name
 ///     focus damping              gives an item the focus
 ///     click damping [label | unit | icon1 | icon2 | value]
+///     click Apply                a button of the footer, by its caption
 ///     doubleclick | rightclick   the same with the other clicks
 ///     type 3.5                   types letter by letter
 ///     enter 3.5                  replaces the whole text
@@ -51,6 +52,7 @@ class Replay {
   void wait(const std::string& milliseconds);
   QRNEdit& row(const std::string& name);
   host::Control& item(const std::string& name);
+  host::Control* footerButton(const std::string& caption);
   host::Control& part(const Words& words);
   MenuPanel& panel();
 

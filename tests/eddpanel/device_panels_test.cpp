@@ -27,17 +27,45 @@ TEST_F(SampleDevice, ListsTheMenusFromTheRootDown) {
   EXPECT_EQ(panels.menus()[1]->name, "more");
 }
 
-TEST_F(SampleDevice, SendsAGoodValueToTheDeviceWhenTheEditEnds) {
+TEST_F(SampleDevice, KeepsWhatIsEditedInTheRowUntilItIsAppliedOrPutBack) {
   play("focus damping\nenter 2.5\nkey Tab");
+  EXPECT_EQ(row("damping").ValueText(), "2.5");
+  EXPECT_TRUE(row("damping").ValueChanged());
+  const std::string printed = play("click Cancel");
+  EXPECT_NE(printed.find("message: 1 value put back\nMain: ButtonClick(3) Cancel\n"), std::string::npos)
+      << printed;
+  EXPECT_EQ(row("damping").ValueText(), "1.50");
+  EXPECT_FALSE(row("damping").ValueChanged());
+}
+
+TEST_F(SampleDevice, SendsAllGoodValuesToTheDeviceWithOkAndWithApply) {
+  for (const std::string button : {"OK", "Apply"}) {
+    const std::string value = button == "OK" ? "2.5" : "3.5";
+    const std::string printed = play("focus damping\nenter " + value + "\nchoose mode " +
+                                     (button == "OK" ? "Manual" : "Automatic") + "\nclick " + button);
+    EXPECT_NE(printed.find("message: 2 values written\n"), std::string::npos) << printed;
+    EXPECT_EQ(row("damping").ValueText(), value + "0");
+    EXPECT_FALSE(row("damping").ValueChanged());
+    play("click Cancel");
+    EXPECT_EQ(row("damping").ValueText(), value + "0") << "the device has it";
+  }
+}
+
+TEST_F(SampleDevice, AppliesByTheLetterOfTheButtonFromTheRowBeingEdited) {
+  play("focus damping\nenter 2.5\nkey Alt+A");
   EXPECT_EQ(row("damping").ValueText(), "2.50");
   EXPECT_FALSE(row("damping").ValueChanged());
 }
 
 TEST_F(SampleDevice, KeepsAValueOutOfRangeInTheRowAndAwayFromTheDevice) {
-  play("focus damping\nenter 99\nkey Tab");
+  const std::string printed = play("focus damping\nenter 99\nclick Apply");
+  EXPECT_NE(printed.find("message: 0 values written, 1 to be corrected\n"), std::string::npos) << printed;
   EXPECT_EQ(row("damping").ValueText(), "99");
   EXPECT_EQ(row("damping").ValueError(), qrnErrorRange);
   EXPECT_TRUE(row("damping").ValueChanged());
+  play("click Cancel");
+  EXPECT_EQ(row("damping").ValueText(), "1.50");
+  EXPECT_EQ(row("damping").ValueError(), qrnErrorNone);
 }
 
 TEST_F(SampleDevice, MovesDynamicValuesButNotTheOneBeingEdited) {
@@ -50,6 +78,7 @@ TEST_F(SampleDevice, MovesDynamicValuesButNotTheOneBeingEdited) {
 TEST_F(SampleDevice, RestoresTheDefaultFromTheContextMenu) {
   play("focus damping\nenter 2.5\nkey Tab\nmenu 2\nrightclick damping label");
   EXPECT_EQ(row("damping").ValueText(), "1.50");
+  EXPECT_FALSE(row("damping").ValueChanged());
 }
 
 TEST_F(SampleDevice, ShowsTheSameVariableTwiceOnOnePanel) {
@@ -73,7 +102,8 @@ TEST_F(SampleDevice, PrintsAPanelAsText) {
             "  Status      {Service}\n"
             "  Pressure    4.000 bar locked dynamic\n"
             "  ! Self test\n"
-            "  > More\n");
+            "  > More\n"
+            "  (OK) (Apply) (Cancel)\n");
 }
 
 }  // namespace

@@ -25,9 +25,8 @@ TEST_F(SampleDevice, TypingRaisesTheEventsOfAnEditInTheirOrder) {
             "Main: ParameterChange(1) damping = \"3\"\n"
             "Main: ItemKeyUp(1, 51, 0) damping = \"3\"\n"
             "Main: ItemKeyDown(1, 9, 0) damping = \"3\"\n"
-            "Main: ParameterStatusChange(1) damping = \"3\"\n"
-            "Main: ParameterEndEdit(1, True) damping = \"3.00\"\n"
-            "Main: ItemLostFocus(1) damping = \"3.00\"\n"
+            "Main: ParameterEndEdit(1, True) damping = \"3\"\n"
+            "Main: ItemLostFocus(1) damping = \"3\"\n"
             "Main: ParameterStartEdit(2) mode = \"Automatic\"\n"
             "Main: ItemGotFocus(2) mode = \"Automatic\"\n"
             "Main: ItemKeyUp(2, 9, 0) mode = \"Automatic\"\n");
