@@ -32,7 +32,7 @@ ButtonPtr clsQRNButtons::AddButton(std::string_view CtlName, const std::string& 
                                    const std::optional<Variant>& AtPosition) {
   startTimer();  // an earlier removal may have taken it
   const std::string key = CtlName.empty() ? buttons_.freeKey("Button") : std::string(CtlName);
-  const ButtonPtr button = makeButton(key, AtPosition);
+  ButtonPtr button = makeButton(key, AtPosition);
   if (!button) return nullptr;
   const WeakRef<ButtonsPanel> guard(panel_.get());
   button->SetDefaultLayout(Caption);
@@ -41,7 +41,7 @@ ButtonPtr clsQRNButtons::AddButton(std::string_view CtlName, const std::string& 
 }
 
 ButtonPtr clsQRNButtons::makeButton(const std::string& key, const std::optional<Variant>& atPosition) {
-  const auto button = std::make_shared<clsQRNButton>();
+  auto button = std::make_shared<clsQRNButton>();
   host::Control* control = nullptr;
   const bool made = ignoringErrors([&] {
     control = &controls().add("VB.CommandButton", key, panel().ButtonsContainer());

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "host/class_table.h"
 #include "support/panel_fixture.h"
 
 namespace qrn::test {
@@ -245,7 +246,14 @@ TEST_F(PanelFooterKeys, TheFocusOnAButtonIsOnNoItem) {
   EXPECT_EQ(panel().GetActiveItem(false), 0);
 }
 
-// ---- properties ----
+// ---- properties and events ----
+
+TEST_F(PanelFooter, EventsOfItStandBetweenThoseOfTheRowsAndThePanelsOwn) {
+  const auto& all = panel().classTable().events;
+  ASSERT_EQ(all.size(), 26u);
+  EXPECT_EQ(Events(all.begin() + 16, all.begin() + 20),
+            (Events{"ParameterStatusChange", "ButtonLayout", "ButtonClick", "KeyDown"}));
+}
 
 TEST_F(PanelFooter, AChangedAlignmentIsToldAndAnEqualOneDoesNothing) {
   host::CommandButton& ok = add("OK");
