@@ -32,6 +32,12 @@ void CommandButton::userClicked() {
   if (Enabled()) raise(Click, "Click");
 }
 
+// Enter is a dialog's own key, but a button with the focus is clicked by it.
+std::intptr_t CommandButton::windowMessage(const Message& message) {
+  if (message.number != wm::GetDlgCode) return Editor::windowMessage(message);
+  return message.wParam == key::Enter ? dlgc::Button | dlgc::WantAllKeys : dlgc::Button;
+}
+
 CommandButton* buttonOfMnemonic(const ContainerControl& container, std::int16_t letter) {
   for (Control* control : container.contained()) {
     if (!control->Visible()) continue;

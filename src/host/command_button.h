@@ -26,6 +26,8 @@ class CommandButton final : public Editor {
 
   void userClicked();
 
+  std::intptr_t windowMessage(const Message& message) override;
+
  private:
   std::string caption_;
 };

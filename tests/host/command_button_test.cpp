@@ -79,6 +79,14 @@ TEST_F(CommandButtons, DisabledTheyCanNotBeClicked) {
   EXPECT_EQ(taken(), 0);
 }
 
+TEST_F(CommandButtons, WantTheKeysThatClickThemAndLeaveADialogItsOthers) {
+  button.SetFocus();
+  for (const std::int16_t key : {host::key::Space, host::key::Enter})
+    EXPECT_TRUE(input().wantsKey(key)) << key;
+  for (const std::int16_t key : {host::key::Escape, host::key::Tab, host::key::Left})
+    EXPECT_FALSE(input().wantsKey(key)) << key;
+}
+
 TEST_F(CommandButtons, AKeyThatTheHolderClearsDoesNotReachThem) {
   button.SetFocus();
   surface().swallowedKey = host::key::Enter;
