@@ -9,14 +9,14 @@ namespace {
 
 constexpr double kGlyph = 8;  // of the buttons in the title bar
 
+// Each arm is two lines beside each other, as strong as the other glyphs.
 void drawCross(host::Surface& surface, const Rect& box, host::Color color) {
+  constexpr double kApart = 0.5;
   const double right = box.right() - 1, bottom = box.bottom() - 1;
-  for (const double shift : {0.0, 1.0}) {
-    surface.line({box.left + shift, box.top}, {right, bottom - shift}, color);
-    surface.line({box.left, box.top + shift}, {right - shift, bottom}, color);
-    surface.line({right - shift, box.top}, {box.left, bottom - shift}, color);
-    surface.line({right, box.top + shift}, {box.left + shift, bottom}, color);
-  }
+  surface.line({box.left + kApart, box.top}, {right, bottom - kApart}, color);
+  surface.line({box.left, box.top + kApart}, {right - kApart, bottom}, color);
+  surface.line({right - kApart, box.top}, {box.left, bottom - kApart}, color);
+  surface.line({right, box.top + kApart}, {box.left + kApart, bottom}, color);
 }
 
 // A window with a title bar of two pixels.
@@ -55,26 +55,37 @@ void QRNDisplay::paint(host::Surface& surface, Size size) {
   paintEdge(surface, size);
 }
 
+// The title of a disabled panel is grey, which can be read on the bar of an inactive one only.
 void QRNDisplay::paintTitle(host::Surface& surface, Size size) {
   const Rect bar{0, 0, size.width, titleHeight_};
   if (titleStyle_ == qrnTitleDialog) {
-    surface.fill(bar, systemColor(active_ ? SystemColor::ActiveCaption : SystemColor::InactiveCaption));
+    const bool active = active_ && Enabled();
+    surface.fill(bar, systemColor(active ? SystemColor::ActiveCaption : SystemColor::InactiveCaption));
   }
   surface.line({0, bar.bottom()}, {size.width - 1, bar.bottom()}, host::kButtonShadow);
   if (imgMaxRst_.Visible()) paintTitleButton(surface, imgMaxRst_);
   if (imgClose_.Visible()) paintTitleButton(surface, imgClose_);
 }
 
+// A caption has no shades of its own for raised and sunken: there a button is outlined under the mouse and
+// inverted while it is pressed.
 void QRNDisplay::paintTitleButton(host::Surface& surface, const host::Image& button) {
   const Rect box = pixelBounds(button);
-  const bool pressed = pressed_ == &button;
-  if (pressed)
-    surface.frame(box, host::kButtonShadow, host::kButtonHighlight);
-  else if (hovered_ == &button)
-    surface.frame(box, host::kButtonHighlight, host::kButtonShadow);
+  const bool pressed = pressed_ == &button, hovered = hovered_ == &button;
+  const bool dialog = titleStyle_ == qrnTitleDialog;
   host::Color color = active_ ? ForeColor() : host::kGrayText;
-  if (titleStyle_ == qrnTitleDialog) {
+  if (dialog)
     color = systemColor(active_ ? SystemColor::ActiveCaptionText : SystemColor::InactiveCaptionText);
+  if (!Enabled()) color = host::kGrayText;
+  if (dialog && pressed) {
+    surface.fill(box, color);
+    color = systemColor(active_ ? SystemColor::ActiveCaption : SystemColor::InactiveCaption);
+  } else if (dialog && hovered) {
+    surface.frame(box, color);
+  } else if (pressed) {
+    surface.frame(box, host::kButtonShadow, host::kButtonHighlight);
+  } else if (hovered) {
+    surface.frame(box, host::kButtonHighlight, host::kButtonShadow);
   }
   const double inset = (box.width - kGlyph) / 2, down = pressed ? 1 : 0;
   const Rect glyph{box.left + inset + down, box.top + inset + down, kGlyph, kGlyph};
@@ -87,13 +98,13 @@ void QRNDisplay::paintTitleButton(host::Surface& surface, const host::Image& but
 }
 
 void QRNDisplay::paintEdge(host::Surface& surface, Size size) {
-  const Rect outer{0, 0, size.width, size.height}, inner{1, 1, size.width - 2, size.height - 2};
+  const Rect outer{0, 0, size.width, size.height};
   switch (borderStyle_) {
     case qrnEdgeSimple: surface.frame(outer, host::kButtonShadow); break;
     case qrnEdgeSunken: surface.frame(outer, host::kButtonShadow, host::kButtonHighlight); break;
     case qrnEdgeEngraved:
       surface.frame(outer, host::kButtonShadow, host::kButtonHighlight);
-      surface.frame(inner, host::kButtonHighlight, host::kButtonShadow);
+      surface.frame(outer, host::kButtonHighlight, host::kButtonShadow, 1);
       break;
     case qrnEdgeBorder: surface.frame(outer, systemColor(SystemColor::WindowFrame)); break;
     default: break;

@@ -17,14 +17,13 @@ double luminance(Color c) {
   return 0.2126 * linear(redOf(c)) + 0.7152 * linear(greenOf(c)) + 0.0722 * linear(blueOf(c));
 }
 
-// A step of the way from a colour to another one.
+}  // namespace
+
 Color mixed(Color from, Color to, double share) {
   const auto channel = [share](int a, int b) { return static_cast<int>(std::lround(a + (b - a) * share)); };
   return rgb(channel(redOf(from), redOf(to)), channel(greenOf(from), greenOf(to)),
              channel(blueOf(from), blueOf(to)));
 }
-
-}  // namespace
 
 double contrast(Color a, Color b) {
   const double la = luminance(a), lb = luminance(b);

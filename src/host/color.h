@@ -46,6 +46,9 @@ inline constexpr Color kGrayText = systemColor(SystemColor::GrayText);
 inline constexpr Color kButtonShadow = systemColor(SystemColor::ButtonShadow);
 inline constexpr Color kButtonHighlight = systemColor(SystemColor::ButtonHighlight);
 
+/// A share of the way from a plain colour to another one, 0 to 1.
+Color mixed(Color from, Color to, double share);
+
 /// The contrast of two plain colours, 1 to 21, as WCAG 2.1 computes it.
 double contrast(Color a, Color b);
 

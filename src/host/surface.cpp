@@ -2,13 +2,14 @@
 
 namespace qrn::host {
 
-void Surface::frame(const Rect& area, Color topLeft, Color bottomRight) {
-  if (area.width < 1 || area.height < 1) return;
-  const double right = area.right() - 1, bottom = area.bottom() - 1;
-  line({area.left, bottom}, {area.left, area.top}, topLeft);
-  line({area.left, area.top}, {right, area.top}, topLeft);
-  line({right, area.top}, {right, bottom}, bottomRight);
-  line({area.left, bottom}, {right, bottom}, bottomRight);
+void Surface::frame(const Rect& area, Color topLeft, Color bottomRight, int depth) {
+  if (area.width < 2 * depth + 1 || area.height < 2 * depth + 1) return;
+  const double left = area.left + depth, top = area.top + depth;
+  const double right = area.right() - depth - 1, bottom = area.bottom() - depth - 1;
+  line({left, bottom}, {left, top}, topLeft);
+  line({left, top}, {right, top}, topLeft);
+  line({right, top}, {right, bottom}, bottomRight);
+  line({left, bottom}, {right, bottom}, bottomRight);
 }
 
 }  // namespace qrn::host

@@ -32,8 +32,9 @@ class Surface {
   virtual void picture(Point topLeft, const Picture& picture) = 0;
   virtual void focusRectangle(const Rect& area) = 0;
 
-  /// The outline of a rectangle, one pixel wide, inside its edges.
-  void frame(const Rect& area, Color topLeft, Color bottomRight);
+  /// The outline of a rectangle, one pixel wide, inside its edges. Outlines of depth 0, 1, 2 … lie one inside
+  /// the other and touch, however many pixels the device has for one.
+  virtual void frame(const Rect& area, Color topLeft, Color bottomRight, int depth = 0);
   void frame(const Rect& area, Color color) { frame(area, color, color); }
 };
 

@@ -34,11 +34,6 @@ class Panel : public PanelTest {
     const auto& areas = watched.invalidated;
     return std::find(areas.begin(), areas.end(), Rect{0, 0, 400, 300}) != areas.end();
   }
-  headless::RecordingSurface painted() {
-    headless::RecordingSurface surface(platform, {400, 300});
-    panel().paintTree(surface);
-    return surface;
-  }
 };
 
 // ---- properties ----
@@ -381,50 +376,6 @@ TEST_F(Panel, AResizeOfTheContainerLaysTheItemsOut) {
 TEST_F(Panel, TheScrollBarStandsAtTheRightEdgeOfTheContainer) {
   EXPECT_EQ(panel().sbrVertical().bounds(), (Rect{379, 27, 16, 268}));
   EXPECT_FALSE(panel().sbrVertical().Visible());
-}
-
-// ---- painting ----
-
-TEST_F(Panel, DrawsItsTitleAndItsEdge) {
-  panel().SetTitle("Device");
-  EXPECT_EQ(painted().operations("text"), (Events{"text 9,5 \"Device\" #000000"}));
-  panel().SetActive(false);
-  EXPECT_EQ(painted().operations("text"), (Events{"text 9,5 \"Device\" #6d6d6d"}));
-  panel().SetTitleStyle(qrnTitleNone);
-  EXPECT_EQ(painted().operations("text"), Events{});
-}
-
-TEST_F(Panel, DrawsADialogTitleInTheColoursOfACaption) {
-  const auto hasFill = [&](const std::string& wanted) {
-    const auto fills = painted().operations("fill");
-    return std::find(fills.begin(), fills.end(), wanted) != fills.end();
-  };
-  EXPECT_FALSE(hasFill("fill 0,0 400x22 #0078d7"));
-  panel().SetTitleStyle(qrnTitleDialog);
-  EXPECT_TRUE(hasFill("fill 0,0 400x22 #0078d7"));
-  panel().SetActive(false);
-  EXPECT_TRUE(hasFill("fill 0,0 400x22 #a0a0a0"));
-}
-
-TEST_F(Panel, EachEdgeLooksDifferent) {
-  panel().SetTitleStyle(qrnTitleNone);
-  std::vector<Events> looks;
-  for (const auto style : {qrnEdgeNone, qrnEdgeSimple, qrnEdgeSunken, qrnEdgeEngraved, qrnEdgeBorder}) {
-    panel().SetBorderStyle(style);
-    const Events lines = painted().operations("line");
-    EXPECT_EQ(std::count(looks.begin(), looks.end(), lines), 0) << style;
-    looks.push_back(lines);
-  }
-  EXPECT_TRUE(looks.front().empty());
-}
-
-TEST_F(Panel, ATitleButtonIsFramedWhileTheMouseIsOverItOnly) {
-  const auto lines = [&] { return painted().operations("line").size(); };
-  const auto before = lines();
-  user->hovers(panel().imgClose());
-  EXPECT_EQ(lines(), before + 4);
-  user->movesTo({370 - 12, 2});  // the bar beside the buttons
-  EXPECT_EQ(lines(), before);
 }
 
 }  // namespace

@@ -85,8 +85,22 @@ TEST_F(Labels, AlignTheirTextAndStartALongOneAtItsBeginning) {
   label.SetCaption("Much too long a caption");
   for (const auto alignment : {host::kAlignLeft, host::kAlignRight, host::kAlignCentre}) {
     label.SetAlignment(alignment);
-    EXPECT_EQ(painted(), (Heard{"text 10,20 \"Much too long a caption\" #000000"}));
+    EXPECT_EQ(painted(), (Heard{"text 10,20 \"Much too…\" #000000"}));
   }
+}
+
+TEST_F(Labels, EndATextThatIsTooLongInAnEllipsisThatFits) {
+  label.SetCaption("Damping");
+  const auto shownIn = [&](double width) {
+    label.SetWidth(width);
+    return painted().front();
+  };
+  EXPECT_EQ(shownIn(42), "text 10,20 \"Damping\" #000000");
+  EXPECT_EQ(shownIn(41), "text 10,20 \"Dampi…\" #000000");
+  EXPECT_EQ(shownIn(36), "text 10,20 \"Dampi…\" #000000");
+  EXPECT_EQ(shownIn(35), "text 10,20 \"Damp…\" #000000");
+  EXPECT_EQ(shownIn(7), "text 10,20 \"…\" #000000");
+  EXPECT_EQ(shownIn(6), "text 10,20 \"Damping\" #000000") << "an ellipsis alone says less than the text";
 }
 
 TEST_F(Labels, PaintNothingWithoutACaption) { EXPECT_EQ(painted(), Heard{}); }

@@ -152,6 +152,12 @@ TEST_F(RecordingSurfaces, DrawAFrameInsideItsEdges) {
                                         "line 39,20 39,59 #0000ff", "line 10,59 39,59 #0000ff"}));
 }
 
+TEST_F(RecordingSurfaces, DrawFramesOfSomeDepthInsideTheOthers) {
+  target.frame({10, 20, 5, 4}, host::rgb(255, 0, 0), host::rgb(0, 0, 255), 1);
+  EXPECT_EQ(target.operations(), (Heard{"line 11,22 11,21 #ff0000", "line 11,21 13,21 #ff0000",
+                                        "line 13,21 13,22 #0000ff", "line 11,22 13,22 #0000ff"}));
+}
+
 TEST_F(RecordingSurfaces, DrawNoFrameAroundNothing) {
   target.frame({10, 20, 0, 40}, 0);
   target.frame({10, 20, 30, 0.5}, 0);

@@ -1,3 +1,4 @@
+#include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -93,6 +94,14 @@ TEST_F(Keys, TabFromOutsideGoesToTheFirstEditorAndShiftTabToTheLast) {
   EXPECT_FALSE(panel->input().focus());
   QTest::keyClick(after, Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_EQ(panel->input().focus(), &panel->list());
+}
+
+TEST_F(Keys, TabMarksWhatHasTheFocusFromThenOn) {
+  click(panel->check());
+  const auto marked = [&] { return window->testAttribute(Qt::WA_KeyboardFocusChange); };
+  EXPECT_FALSE(marked());
+  QTest::keyClick(shown<QCheckBox>(), Qt::Key_Tab);
+  EXPECT_TRUE(marked());
 }
 
 TEST_F(Keys, WhereThereIsNothingElseTabStartsOver) {

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <cmath>
 
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_surface.h"
@@ -59,6 +60,47 @@ TEST_F(Surface, ALineHasBothItsEndsAndIsCrispAtEveryScale) {
     const int lengths = static_cast<int>(8 * scale) + static_cast<int>(8 * scale);
     EXPECT_EQ(count(image, kRedPixel), lengths * thick) << scale;
     EXPECT_EQ(count(image, kRedPixel) + count(image, kWhitePixel), image.width() * image.height()) << scale;
+  }
+}
+
+TEST_F(Surface, FramesReachTheEdgesOfTheirAreaAtEveryScale) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    for (const int width : {6, 7}) {
+      const QImage image = drawn(scale, [&](QtSurface& s) {
+        s.frame({2, 2, static_cast<double>(width), 8}, kRed);
+      });
+      const auto right = static_cast<int>(std::floor((2 + width) * scale + 0.5)) - 1;
+      const auto middle = static_cast<int>(6 * scale);
+      EXPECT_EQ(image.pixel(right, middle), kRedPixel) << scale << " " << width;
+      EXPECT_EQ(image.pixel(right + 1, middle), kWhitePixel) << scale << " " << width;
+    }
+  }
+}
+
+TEST_F(Surface, FramesInsideEachOtherTouchAtEveryScale) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const QImage image = drawn(scale, [&](QtSurface& s) {
+      s.frame({1, 1, 17, 17}, kRed);
+      s.frame({1, 1, 17, 17}, host::rgb(0, 0, 255), host::rgb(0, 0, 255), 1);
+    });
+    const int thick = scale == 2 ? 2 : 1;
+    const int left = static_cast<int>(std::floor(scale + 0.5)), right = static_cast<int>(18 * scale) - 1;
+    const int middle = static_cast<int>(9 * scale);
+    for (int i = 0; i < 2 * thick; ++i) {
+      const QRgb color = i < thick ? kRedPixel : 0xFF0000FF;
+      EXPECT_EQ(image.pixel(left + i, middle), color) << scale << " " << i;
+      EXPECT_EQ(image.pixel(right - i, middle), color) << scale << " " << i;
+      EXPECT_EQ(image.pixel(middle, left + i), color) << scale << " " << i;
+      EXPECT_EQ(image.pixel(middle, right - i), color) << scale << " " << i;
+    }
+    EXPECT_EQ(image.pixel(left + 2 * thick, middle), kWhitePixel) << scale;
+  }
+}
+
+TEST_F(Surface, ASlantedLineIsSmooth) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const QImage image = drawn(scale, [](QtSurface& s) { s.line({2, 2}, {12, 8}, kRed); });
+    EXPECT_LT(count(image, kRedPixel) + count(image, kWhitePixel), image.width() * image.height()) << scale;
   }
 }
 

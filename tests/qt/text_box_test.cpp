@@ -79,6 +79,20 @@ TEST_F(TextBoxPeer, TypedLettersBecomeCapitalsAndTheCaretStays) {
   EXPECT_EQ(shown<QLineEdit>()->cursorPosition(), 2);
 }
 
+TEST_F(TextBoxPeer, APasswordShowsItsCharacterForEveryOther) {
+  panel->text().SetPasswordChar("*");
+  click(panel->text());
+  ASSERT_TRUE(shown<QLineEdit>());
+  EXPECT_EQ(shown<QLineEdit>()->displayText(), "**********");
+  QTest::keyClicks(shown<QLineEdit>(), "x");
+  EXPECT_EQ(shown<QLineEdit>()->displayText(), "***********");
+  panel->text().SetPasswordChar("#");
+  EXPECT_EQ(shown<QLineEdit>()->displayText(), "###########");
+  panel->text().SetPasswordChar("");
+  EXPECT_EQ(shown<QLineEdit>()->displayText().size(), 11);
+  EXPECT_EQ(shown<QLineEdit>()->displayText(), shown<QLineEdit>()->text());
+}
+
 TEST_F(TextBoxPeer, ALockedBoxSelectsButDoesNotChange) {
   panel->text().SetLocked(true);
   click(panel->text());

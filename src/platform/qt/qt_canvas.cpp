@@ -245,6 +245,8 @@ bool QtCanvas::ownKey(QKeyEvent& event) {
 }
 
 bool QtCanvas::keyPressed(QKeyEvent& event, QWidget* editor) {
+  // From now on styles mark what has the focus, as they do where Qt itself moves it.
+  if (isTab(event)) window()->setAttribute(Qt::WA_KeyboardFocusChange);
   bool used = false;
   guarded([&] { used = input().keyDown(keyCode(event), shiftState(event.modifiers())); });
   if (used || !control_) return true;

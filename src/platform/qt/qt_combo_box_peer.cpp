@@ -5,7 +5,7 @@
 #include <QWheelEvent>
 
 #include "platform/qt/qt_canvas.h"
-#include "platform/qt/qt_locked_combo.h"
+#include "platform/qt/qt_field_frame.h"
 #include "platform/qt/qt_text.h"
 
 namespace qrn::qt {
@@ -20,7 +20,8 @@ void LockableComboBox::paintEvent(QPaintEvent* event) {
   QStylePainter painter(this);
   QStyleOptionComboBox option;
   initStyleOption(&option);
-  drawLockedComboFrame(painter, option);
+  option.state |= QStyle::State_ReadOnly;
+  drawFieldFrame(painter, option);
   painter.setPen(palette().color(QPalette::Text));
   painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

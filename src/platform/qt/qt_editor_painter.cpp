@@ -16,9 +16,9 @@
 #include "host/user_control.h"
 #include "host/v_scroll_bar.h"
 #include "platform/qt/qt_color.h"
+#include "platform/qt/qt_field_frame.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_list_item.h"
-#include "platform/qt/qt_locked_combo.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_surface.h"
 #include "platform/qt/qt_text.h"
@@ -53,13 +53,10 @@ QStyleOptionFrame lineEditOption(const QRect& place, const QPalette& palette, co
   return option;
 }
 
-// A line edit shows characters without a glyph as blanks, and hidden ones as the style says.
+// A line edit shows characters without a glyph as blanks.
 QString displayed(const host::TextBox& box) {
   QString text = toQString(box.Text());
-  if (!box.PasswordChar().empty()) {
-    text.fill(QChar(style().styleHint(QStyle::SH_LineEdit_PasswordCharacter)));
-    return text;
-  }
+  if (const QChar hidden = passwordCharacter(box); !hidden.isNull()) return text.fill(hidden);
   for (QChar& c : text) {
     const bool blank = (c.unicode() < 0x20 && c != QChar::Tabulation) || c == QChar::LineSeparator ||
                        c == QChar::ParagraphSeparator || c == QChar::ObjectReplacementCharacter;
@@ -124,18 +121,22 @@ void QtEditorPainter::paintFrame(QPainter& painter, const QRect& place, const ho
   const double scale = painter.deviceTransform().m11();
   const host::Color behind = platform_.resolve(editor.Parent()->backColor());
   const qint64 palette = platform_.palettes().of(editor).cacheKey();
-  const FrameKey key{kind, state, place.width(), place.height(), scale, palette, behind};
+  // At a scale of 1.5 every other pixel starts in the middle of one of the device's, and so does the frame.
+  const QPointF start = painter.deviceTransform().map(QPointF(place.topLeft()));
+  const QPointF whole(std::floor(start.x()), std::floor(start.y())), rest = (start - whole) / scale;
+  const FrameKey key{kind, state, place.width(), place.height(), scale, rest.x(), rest.y(), palette, behind};
   if (frames_.size() >= kMostFrames) frames_.clear();
   QPixmap& frame = frames_[key];
   if (frame.isNull()) {
-    frame = QPixmap(QSize(static_cast<int>(std::ceil(place.width() * scale)),
-                          static_cast<int>(std::ceil(place.height() * scale))));
+    frame = QPixmap(QSize(static_cast<int>(std::ceil((place.width() + rest.x()) * scale)),
+                          static_cast<int>(std::ceil((place.height() + rest.y()) * scale))));
     frame.setDevicePixelRatio(scale);
     frame.fill(toQColor(behind));
     QPainter framePainter(&frame);
+    framePainter.translate(rest);
     draw(framePainter, QRect(QPoint(0, 0), place.size()));
   }
-  painter.drawPixmap(place.topLeft(), frame);
+  painter.drawPixmap(QPointF(place.topLeft()) - rest, frame);
 }
 
 void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const host::TextBox& box) {
@@ -197,7 +198,10 @@ void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const ho
   paintFrame(painter, place, box, 'o', state, [&](QPainter& into, const QRect& at) {
     QStyleOptionComboBox frame = option;
     frame.rect = at;
-    if (box.Locked()) return drawLockedComboFrame(into, frame);
+    if (box.Locked()) {
+      frame.state |= QStyle::State_ReadOnly;
+      return drawFieldFrame(into, frame);
+    }
     style().drawComplexControl(QStyle::CC_ComboBox, &frame, &into);
   });
   option.currentText = toQString(box.Text());
@@ -226,29 +230,28 @@ void QtEditorPainter::paintButton(QPainter& painter, const QRect& place, const h
 
 void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const host::ListBox& list) {
   const QPalette& palette = platform_.palettes().of(list);
-  QStyleOptionFrame frame;
+  QStyleOption frame;
   setState(frame, place, palette, list.Enabled());
-  frame.frameShape = QFrame::StyledPanel;
-  frame.lineWidth = 1;
-  frame.midLineWidth = 0;
-  frame.state |= QStyle::State_Sunken;
+  paintFrame(painter, place, list, 'l', list.Enabled() ? 1 : 0, [&](QPainter& into, const QRect& at) {
+    QStyleOption field = frame;
+    field.rect = at;
+    drawFieldFrame(into, field);
+  });
   const int edge = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &frame);
   const QRect inside = place.adjusted(edge, edge, -edge, -edge);
-  style().drawControl(QStyle::CE_ShapedFrame, &frame, &painter);
-  painter.fillRect(inside, frame.palette.brush(QPalette::Base));
 
   const QFont& font = platform_.metrics(*list.Font()).font();
   const int height = listItemHeight(font), all = height * list.ListCount();
-  QRect entries = inside;
-  if (all > inside.height()) {
+  QRect entries = inside.adjusted(kListMargin, kListMargin, -kListMargin, -kListMargin);
+  if (all > entries.height()) {
     const int width = style().pixelMetric(QStyle::PM_ScrollBarExtent, &frame);
     QStyleOptionSlider bar;
     setState(bar, QRect(inside.right() + 1 - width, inside.y(), width, inside.height()), palette,
              list.Enabled());
-    bar.maximum = all - inside.height();
-    bar.pageStep = inside.height();
+    bar.maximum = all - entries.height();
+    bar.pageStep = entries.height();
     drawScrollBar(painter, bar);
-    entries.setRight(inside.right() - width);
+    entries.setRight(entries.right() - width);
   }
   painter.setClipRect(entries, Qt::IntersectClip);
   for (int i = 0, top = entries.top(); i < list.ListCount() && top <= entries.bottom(); ++i, top += height) {

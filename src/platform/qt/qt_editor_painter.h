@@ -38,8 +38,9 @@ class QtEditorPainter {
 
  private:
   using DrawFrame = std::function<void(QPainter&, const QRect&)>;
-  // Kind, state, width, height, scale, palette and the colour that lies behind.
-  using FrameKey = std::tuple<char, int, int, int, double, qint64, host::Color>;
+  // Kind, state, width, height, scale, where in a device pixel it starts, palette and the colour that lies
+  // behind.
+  using FrameKey = std::tuple<char, int, int, int, double, double, double, qint64, host::Color>;
 
   void paintText(QPainter& painter, const QRect& place, const host::TextBox& box);
   void paintCheck(QPainter& painter, const QRect& place, const host::CheckBox& box);

@@ -2,9 +2,12 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOption>
 #include <utility>
 
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_field_frame.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_keys.h"
 #include "platform/qt/qt_list_item.h"
@@ -18,6 +21,17 @@ CheckListWidget::CheckListWidget(QWidget* parent) : QListWidget(parent) {
   setVerticalScrollMode(ScrollPerPixel);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setEditTriggers(NoEditTriggers);
+  setViewportMargins(kListMargin, kListMargin, kListMargin, kListMargin);
+}
+
+// The list paints its frame only; its entries are the viewport's.
+bool CheckListWidget::event(QEvent* event) {
+  if (event->type() != QEvent::Paint) return QListWidget::event(event);
+  QPainter painter(this);
+  QStyleOption option;
+  option.initFrom(this);
+  drawFieldFrame(painter, option);
+  return true;
 }
 
 // A view that gets the focus makes its first entry current by itself, but does not mark it.

@@ -21,6 +21,7 @@ class CheckListWidget final : public QListWidget {
   void keyboardSearch(const QString& search) override;
 
  protected:
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

@@ -18,6 +18,9 @@ struct QtListItem {
   void paint(QPainter& painter, const QRect& place, const QPalette& palette, const QFont& font) const;
 };
 
+/// Between the frame of a list and its entries: at a scale of 1.5 they would lie over the frame.
+inline constexpr int kListMargin = 1;
+
 /// The height of an entry.
 int listItemHeight(const QFont& font);
 

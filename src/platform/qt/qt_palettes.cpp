@@ -19,6 +19,23 @@ host::Color backgroundOf(const host::Editor& editor, QPalette::ColorRole role, c
   return styled ? fromQt(QApplication::palette().color(role)) : platform.resolve(editor.BackColor());
 }
 
+// Where the text will lie: styles draw a dark button lighter than its colour.
+host::Color behindText(host::Color back, QPalette::ColorRole role) {
+  constexpr int kLighterByHalf = 150;
+  return role == QPalette::Button ? fromQt(toQColor(back).lighter(kLighterByHalf)) : back;
+}
+
+// Styles take the window's colour, made darker, for the outlines of editors and of their marks. In the dark
+// nothing would be left of them.
+void keepOutlines(QPalette& palette) {
+  constexpr int kDark = 128, kOutdoesDarker = 140;
+  constexpr double kShare = 0.3;
+  if (palette.color(QPalette::Window).lightness() >= kDark) return;
+  const host::Color base = fromQt(palette.color(QPalette::Base)),
+                    text = fromQt(palette.color(QPalette::Text));
+  palette.setColor(QPalette::Window, toQColor(host::mixed(base, text, kShare)).lighter(kOutdoesDarker));
+}
+
 }  // namespace
 
 const QPalette& QtPalettes::of(const host::Editor& editor) {
@@ -28,10 +45,11 @@ const QPalette& QtPalettes::of(const host::Editor& editor) {
   const QPalette::ColorRole role = pressable ? QPalette::Button : QPalette::Base;
   const host::Color back = backgroundOf(editor, role, platform_);
   const host::Color wish = platform_.resolve(editor.textColor());
-  const host::Color text = editor.Enabled() ? host::readableOn(wish, back) : wish;
+  const host::Color text = editor.Enabled() ? host::readableOn(wish, behindText(back, role)) : wish;
   const auto [entry, fresh] = palettes_.try_emplace({role, back, text});
   if (fresh) {
     QPalette palette = QApplication::palette();
+    keepOutlines(palette);
     palette.setColor(role, toQColor(back));
     for (const auto each : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
       palette.setColor(each, toQColor(text));

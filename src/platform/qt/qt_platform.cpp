@@ -117,13 +117,15 @@ host::Color QtPlatform::system(host::SystemColor which) const {
     case GrayText: return fromQt(palette.color(QPalette::Disabled, QPalette::Text));
     case ButtonHighlight: return color(QPalette::Light);
     case ButtonShadow: return color(QPalette::Dark);
-    case ButtonDarkShadow:
-    case WindowFrame: return color(QPalette::Shadow);
+    case ButtonDarkShadow: return color(QPalette::Shadow);
+    // Palettes have no frame: their shadow is lost on a dark window.
+    case WindowFrame: return host::mixed(color(QPalette::Window), color(QPalette::WindowText), 0.6);
     case Highlight:
     case ActiveCaption: return color(QPalette::Highlight);
     case HighlightText:
     case ActiveCaptionText: return color(QPalette::HighlightedText);
-    case InactiveCaption: return color(QPalette::Mid);
+    // Nor a second caption: a trace of the first one can be told from it and from any window.
+    case InactiveCaption: return host::mixed(color(QPalette::Window), color(QPalette::Highlight), 0.2);
     case InactiveCaptionText: return color(QPalette::WindowText);
   }
   return color(QPalette::WindowText);

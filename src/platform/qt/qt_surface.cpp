@@ -36,6 +36,9 @@ QtSurface::QtSurface(QtPlatform& platform, QPainter& painter, const Rect& visibl
   painter_.setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
+// At a scale of 1.5 all lines are thin rather than some of them.
+double QtSurface::lineWidth() const { return std::max(1.0, std::floor(scale_)) / scale_; }
+
 double QtSurface::aligned(double at) const { return std::floor(at * scale_ + 0.5) / scale_; }
 
 QRectF QtSurface::aligned(const Rect& area) const {
@@ -76,18 +79,33 @@ void QtSurface::line(Point from, Point to, host::Color color) {
   QPainter& painter = clippedPainter();
   const QColor pen = toQColor(platform_.resolve(color));
   if (from.x != to.x && from.y != to.y) {
-    painter.setPen(QPen(pen, 1));
+    // A pen of one device pixel would be drawn in steps.
+    constexpr double kSmooth = 1.05;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(pen, kSmooth));
     painter.drawLine(QPointF(from.x + 0.5, from.y + 0.5), QPointF(to.x + 0.5, to.y + 0.5));
+    painter.setRenderHint(QPainter::Antialiasing, false);
     return;
   }
-  // Whole device pixels, as many for every line: at a scale of 1.5 all are thin rather than some of them.
-  const double thick = std::max(1.0, std::floor(scale_)) / scale_;
   const Rect pixels{std::min(from.x, to.x), std::min(from.y, to.y), std::abs(to.x - from.x) + 1,
                     std::abs(to.y - from.y) + 1};
   QRectF target = aligned(pixels);
-  if (from.y == to.y) target.setHeight(thick);
-  if (from.x == to.x) target.setWidth(thick);
+  if (from.y == to.y) target.setHeight(lineWidth());
+  if (from.x == to.x) target.setWidth(lineWidth());
   painter.fillRect(target, pen);
+}
+
+// The lower right lines end where the area does, which is not where their pixels begin at every scale.
+void QtSurface::frame(const Rect& area, host::Color topLeft, host::Color bottomRight, int depth) {
+  const double thick = lineWidth(), inset = depth * thick;
+  const QRectF place = aligned(area.translated(origin())).adjusted(inset, inset, -inset, -inset);
+  if (place.width() < thick || place.height() < thick) return;
+  QPainter& painter = clippedPainter();
+  const QColor upper = toQColor(platform_.resolve(topLeft)), lower = toQColor(platform_.resolve(bottomRight));
+  painter.fillRect(QRectF(place.left(), place.top(), thick, place.height()), upper);
+  painter.fillRect(QRectF(place.left(), place.top(), place.width(), thick), upper);
+  painter.fillRect(QRectF(place.right() - thick, place.top(), thick, place.height()), lower);
+  painter.fillRect(QRectF(place.left(), place.bottom() - thick, place.width(), thick), lower);
 }
 
 void QtSurface::text(Point topLeft, std::string_view text, const host::Font& font, host::Color color) {

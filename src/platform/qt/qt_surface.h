@@ -23,6 +23,8 @@ class QtSurface final : public host::Surface {
   void fill(const Rect& area, host::Color color, host::DrawMode mode = host::DrawMode::Copy) override;
   void line(Point from, Point to, host::Color color) override;
   void text(Point topLeft, std::string_view text, const host::Font& font, host::Color color) override;
+  using Surface::frame;
+  void frame(const Rect& area, host::Color topLeft, host::Color bottomRight, int depth) override;
   void picture(Point topLeft, const host::Picture& picture) override;
   void focusRectangle(const Rect& area) override;
 
@@ -36,6 +38,8 @@ class QtSurface final : public host::Surface {
     Rect clip;  // of the whole surface
   };
 
+  /// Of a line that is one pixel wide: whole device pixels, as many for every line.
+  double lineWidth() const;
   double aligned(double at) const;
   QRectF aligned(const Rect& area) const;
 

@@ -1,6 +1,9 @@
 #include "platform/qt/qt_text_box_peer.h"
 
+#include <QApplication>
+#include <QProxyStyle>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_text.h"
@@ -11,6 +14,29 @@ Qt::Alignment horizontalAlignment(std::int32_t alignment) {
   if (alignment == host::kAlignLeft) return Qt::AlignLeft;
   return alignment == host::kAlignRight ? Qt::AlignRight : Qt::AlignHCenter;
 }
+
+QChar passwordCharacter(const host::TextBox& box) {
+  const QString hidden = toQString(box.PasswordChar());
+  return hidden.isEmpty() ? QChar() : hidden.front();
+}
+
+/// The application's style but for the character that hides others, which a line edit asks its style for.
+class HidingStyle final : public QProxyStyle {
+ public:
+  explicit HidingStyle(QChar hidden)
+      : QProxyStyle(QApplication::style()->name()), usual_(QApplication::style()->name()), hidden_(hidden) {}
+
+  bool serves(QChar hidden) const { return hidden == hidden_ && usual_ == QApplication::style()->name(); }
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    if (hint == SH_LineEdit_PasswordCharacter) return hidden_.unicode();
+    return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+ private:
+  QString usual_;
+  QChar hidden_;
+};
 
 QtTextBoxPeer::QtTextBoxPeer(QtCanvas& canvas, host::TextBox& box)
     : QtEditorPeer(canvas, box, new QLineEdit(&canvas)),
@@ -23,10 +49,20 @@ QtTextBoxPeer::QtTextBoxPeer(QtCanvas& canvas, host::TextBox& box)
 }
 
 void QtTextBoxPeer::applyLook() {
+  applyPasswordChar();
   QtEditorPeer::applyLook();
   line_.setAlignment(horizontalAlignment(box_.Alignment()) | Qt::AlignVCenter);
-  line_.setEchoMode(box_.PasswordChar().empty() ? QLineEdit::Normal : QLineEdit::Password);
   applyMaxLength();
+}
+
+void QtTextBoxPeer::applyPasswordChar() {
+  const QChar hidden = passwordCharacter(box_);
+  line_.setEchoMode(hidden.isNull() ? QLineEdit::Normal : QLineEdit::Password);
+  if (hidden.isNull() || (hiding_ && hiding_->serves(hidden))) return;
+  auto* style = new HidingStyle(hidden);
+  style->setParent(&line_);
+  line_.setStyle(style);
+  delete std::exchange(hiding_, style);
 }
 
 void QtTextBoxPeer::applyEnabled() {

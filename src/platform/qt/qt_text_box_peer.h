@@ -15,13 +15,18 @@ class QtTextBoxPeer final : public QtEditorPeer {
   void applyContent() override;
   void applyLook() override;
   void applyEnabled() override;
+  void applyPasswordChar();
   void applyMaxLength();
   void reportText();
   void reportSelection();
 
   host::TextBox& box_;
   QLineEdit& line_;
+  class HidingStyle* hiding_ = nullptr;  // the line edit's own, once it has hidden its text
 };
+
+/// What a text box shows in the place of every character; null for these themselves.
+QChar passwordCharacter(const host::TextBox& box);
 
 /// Where a text box's alignment puts its text.
 Qt::Alignment horizontalAlignment(std::int32_t alignment);

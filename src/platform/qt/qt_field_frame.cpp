@@ -1,4 +1,4 @@
-#include "platform/qt/qt_locked_combo.h"
+#include "platform/qt/qt_field_frame.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -6,13 +6,13 @@
 
 namespace qrn::qt {
 
-void drawLockedComboFrame(QPainter& painter, const QStyleOptionComboBox& combo) {
+void drawFieldFrame(QPainter& painter, const QStyleOption& field) {
   QStyle& style = *QApplication::style();
   QStyleOptionFrame option;
-  option.rect = combo.rect;
-  option.palette = combo.palette;
-  option.direction = combo.direction;
-  option.state = combo.state | QStyle::State_Sunken | QStyle::State_ReadOnly;
+  option.rect = field.rect;
+  option.palette = field.palette;
+  option.direction = field.direction;
+  option.state = field.state | QStyle::State_Sunken;
   option.lineWidth = style.pixelMetric(QStyle::PM_DefaultFrameWidth, &option);
   style.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter);
 }
