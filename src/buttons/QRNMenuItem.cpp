@@ -111,10 +111,6 @@ void QRNMenuItem::showContextMenu(bool atKeyboard) {
 
 // ---- mouse and keyboard ----
 
-bool QRNMenuItem::isInside(Point at) const {
-  return at.x >= 0 && at.x < ScaleWidth() && at.y >= 0 && at.y < ScaleHeight();
-}
-
 bool QRNMenuItem::isCursorOver() {
   const Point at = platform().cursor();
   const auto half = [](double value) {
@@ -164,7 +160,7 @@ void QRNMenuItem::mouseDown(host::MouseButton button, std::int16_t, Point) {
 
 void QRNMenuItem::mouseMove(std::int16_t, std::int16_t, Point at) {
   if (!takesClicks()) return;
-  mouseOver_ = isInside(at);
+  mouseOver_ = contains(at);
   if (mouseOver_ && !tmrHit_)
     startHitTracking();
   else if (!mouseOver_ && tmrHit_)
@@ -175,7 +171,7 @@ void QRNMenuItem::mouseMove(std::int16_t, std::int16_t, Point at) {
 }
 
 void QRNMenuItem::mouseUp(host::MouseButton button, std::int16_t, Point at) {
-  const bool inside = isInside(at);
+  const bool inside = contains(at);
   if (button == host::MouseButton::Left && leftButtonDown_) {
     leftButtonDown_ = false;
     if (!takesClicks()) return;

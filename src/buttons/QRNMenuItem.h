@@ -104,7 +104,6 @@ class QRNMenuItem final : public host::UserControl {
   }
 
   bool takesClicks() const { return buttonMode_ != qrnbuttonNone; }
-  bool isInside(Point at) const;
   bool isCursorOver();
   bool doClick();
   void startHitTracking();

@@ -6,6 +6,7 @@
 
 #include "diag/QRNErrors.h"
 #include "runtime/errors.h"
+#include "runtime/rounding.h"
 
 namespace qrn {
 namespace {
@@ -52,6 +53,18 @@ QRNImageList& QRNDisplay::ImageList() {
 
 // ---- setters ----
 
+bool QRNDisplay::apply(After after) {
+  const WeakRef<host::Control> self(this);
+  switch (after) {
+    case After::Nothing: break;
+    case After::Repaint: invalidate(); break;
+    case After::Arrange: arrange(); break;
+    case After::LayoutButtons: LayoutButtons(); break;
+    case After::TitleLook: applyTitleLook(); break;
+  }
+  return static_cast<bool>(self);
+}
+
 void QRNDisplay::SetTitle(const std::string& title) {
   if (title == Title()) return;
   lblTitle_.SetCaption(title);
@@ -73,26 +86,23 @@ void QRNDisplay::SetForeColor(host::Color color) {
 void QRNDisplay::SetFont(host::FontPtr font) {
   if (font && *font == *this->font()) return;
   setFont(std::move(font));
-  lblTitle_.fontChanged();
   for (host::Control* button : buttonsContainer_.contained()) button->fontChanged();
-  propertyChanged("Font");
-  arrange();
+  if (apply(After::Arrange)) propertyChanged("Font");
 }
 
 void QRNDisplay::SetEnabled(bool enabled) {
   if (enabled == Enabled()) return;
   UserControl::SetEnabled(enabled);
   sbrVertical_.SetEnabled(enabled && sbrVertical_.Visible());
-  propertyChanged("Enabled");
   if (titleStyle_ == qrnTitleDialog) invalidate();
+  propertyChanged("Enabled");
 }
 
 void QRNDisplay::SetTitleStyle(qrnTitleStyle style) {
   if (style == titleStyle_) return;
   titleStyle_ = style;
-  propertyChanged("TitleStyle");
   applyTitleLook();
-  arrange();
+  if (apply(After::Arrange)) propertyChanged("TitleStyle");
 }
 
 bool QRNDisplay::Redraw() const {
@@ -117,7 +127,7 @@ void QRNDisplay::SetCloseButtonToolTip(const std::string& text) {
 
 std::int32_t QRNDisplay::GetHorizontalSpacing() const {
   if (horizontalSpacing_ >= 0) return horizontalSpacing_;
-  return static_cast<std::int32_t>(std::nearbyint(TextWidth("0")));
+  return static_cast<std::int32_t>(roundHalfEven(TextWidth("0")));
 }
 
 std::int32_t QRNDisplay::GetVerticalSpacing() const {

@@ -204,23 +204,26 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void store(T& field, const T& value, std::string_view key, After after) {
     if (field == value) return;
     field = value;
-    propertyChanged(key);
-    if (after == After::Repaint)
-      invalidate();
-    else if (after == After::Arrange)
-      arrange();
-    else if (after == After::LayoutButtons)
-      LayoutButtons();
-    else if (after == After::TitleLook)
-      applyTitleLook();
+    if (apply(after)) propertyChanged(key);
   }
+  /// What a changed property leads to. Rows that are laid out end their edits, and who hears of that may do
+  /// anything: answers whether the panel is still there.
+  bool apply(After after);
 
   // ---- arrangement and layout (QRNDisplay_layout.cpp) ----
   void arrange();
   double arrangeTitle();
   void placeItems(const ColumnWidths& automatic);
-  double placeAction(QRNMenuItem& button, double y, double gap);
-  double placeRow(QRNEdit& row, const ColumnWidths& automatic, double y, double gap);
+  /// What is the same for all the items of one layout.
+  struct ItemMeasures {
+    ColumnWidths automatic;
+    double room;
+    std::int32_t horizontalSpacing;
+    std::int32_t verticalSpacing;
+    std::int32_t actionHeight;
+  };
+  double placeAction(QRNMenuItem& button, const ItemMeasures& all, double y, double gap);
+  double placeRow(QRNEdit& row, const ItemMeasures& all, double y, double gap);
   void setUpScrollBar(double contentHeight);
   void applyScroll();
   double containerWidth() const;

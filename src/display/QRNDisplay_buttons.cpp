@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 #include "display/QRNDisplay.h"
@@ -53,7 +52,7 @@ void QRNDisplay::LayoutButtons() {
 }
 
 void QRNDisplay::buttonsChanged() {
-  arrange();
+  if (!apply(After::Arrange)) return;
   // The container has the size that it had, unless the row has just appeared.
   LayoutButtons();
 }

@@ -1,18 +1,7 @@
-#include <cmath>
-
 #include "display/QRNDisplay.h"
 #include "runtime/errors.h"
 
 namespace qrn {
-namespace {
-
-bool isInside(const host::Control& part, Point at) {
-  const Size size = part.pixelSize();
-  return at.x >= 0 && at.x < size.width && at.y >= 0 && at.y < size.height;
-}
-
-}  // namespace
-
 void QRNDisplay::raiseItem(Event<std::int32_t&>& event, std::string_view name, const PanelItem& item) {
   std::int32_t index = item.position();
   raise(event, name, index);
@@ -76,7 +65,7 @@ void QRNDisplay::mouseDown(host::MouseButton button, std::int16_t, Point) {
 void QRNDisplay::mouseUp(host::MouseButton button, std::int16_t, Point at) {
   if (button != host::MouseButton::Left || pressed_ != this) return;
   pressed_ = nullptr;
-  if (isInside(*this, at)) passiveClick();
+  if (contains(at)) passiveClick();
 }
 
 void QRNDisplay::childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point) {
@@ -87,7 +76,7 @@ void QRNDisplay::childMouseDown(host::Control& child, host::MouseButton button, 
 
 void QRNDisplay::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point at) {
   const bool button = &child == &imgClose_ || &child == &imgMaxRst_;
-  hover(button && isInside(child, at) ? &child : nullptr);
+  hover(button && child.contains(at) ? &child : nullptr);
 }
 
 void QRNDisplay::hover(const host::Control* titleButton) {
@@ -101,7 +90,7 @@ void QRNDisplay::childMouseUp(host::Control& child, host::MouseButton button, st
   if (button != host::MouseButton::Left || pressed_ != &child) return;
   pressed_ = nullptr;
   child.invalidate();
-  if (isInside(child, at)) clickOn(child);
+  if (child.contains(at)) clickOn(child);
 }
 
 void QRNDisplay::clickOn(host::Control& child) {

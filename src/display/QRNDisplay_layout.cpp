@@ -4,13 +4,12 @@
 
 #include "display/QRNDisplay.h"
 #include "runtime/errors.h"
+#include "runtime/rounding.h"
 
 namespace qrn {
 namespace {
 
 constexpr double kNarrowest = 80;  // of an item, whatever the panel's width
-
-double rounded(double value) { return std::nearbyint(value); }
 
 ColumnWidths minimumOf(const QRNEdit& row) {
   return {row.GetMinLabelWidth(), row.GetMinValueWidth(), row.GetMinUnitWidth()};
@@ -31,32 +30,34 @@ void setWidth(QRNEdit& row, int column, std::int32_t width) {
 
 // ---- the parts of the panel ----
 
+// The item container comes last: its new size lays the items out, and that may fail, or end the panel.
 void QRNDisplay::arrange() {
   if (!redraw_) return;
   titleHeight_ = titleStyle_ == qrnTitleNone ? 0 : arrangeTitle();
-  const double width = rounded(ScaleWidth() - leftMargin_ - rightMargin_);
   const double below = arrangeButtons();
-  const double height = rounded(ScaleHeight() - titleHeight_ - topMargin_ - below);
-  pbxContainer_.Move(leftMargin_, titleHeight_ + topMargin_, std::max(width, 1.0), std::max(height, 1.0));
+  const double width = std::max(roundHalfEven(ScaleWidth() - leftMargin_ - rightMargin_), 1.0);
+  const double top = titleHeight_ + topMargin_;
+  const double height = std::max(roundHalfEven(ScaleHeight() - top - below), 1.0);
   const double bar = platform().scrollBarWidth();
-  sbrVertical_.Move(pbxContainer_.bounds().right() - bar, pbxContainer_.Top(), bar, pbxContainer_.Height());
+  sbrVertical_.Move(leftMargin_ + width - bar, top, bar, height);
   invalidate();
+  pbxContainer_.Move(leftMargin_, top, width, height);
 }
 
 // Answers the height of the title bar.
 double QRNDisplay::arrangeTitle() {
   constexpr double kEdge = 5, kGap = 4;
   const double text = TextHeight("|");
-  const double indent = rounded(text / 3 + 5);
-  const double height = rounded(text + 10 - 1);
+  const double indent = roundHalfEven(text / 3 + 5);
+  const double height = roundHalfEven(text + 10 - 1);
   imgClose_.Move(ScaleWidth() - kEdge - imgClose_.Width(), (height - imgClose_.Height() + 1) / 2,
                  imgClose_.Width(), imgClose_.Height());
   imgMaxRst_.Move(imgClose_.Left() - imgMaxRst_.Width() - kGap, (height - imgMaxRst_.Height() + 1) / 2,
                   imgMaxRst_.Width(), imgMaxRst_.Height());
-  double width = rounded(ScaleWidth() - indent - 2);
+  double width = roundHalfEven(ScaleWidth() - indent - 2);
   if (!iconCloseHidden_) width -= imgClose_.Width() + kGap;
   if (!iconMaxRstHidden_) width -= imgMaxRst_.Width() + kGap;
-  const auto top = static_cast<std::int32_t>(rounded(height - text + 1)) / 2;
+  const auto top = static_cast<std::int32_t>(roundHalfEven(height - text + 1)) / 2;
   lblTitle_.Move(indent, top, std::max(width, 1.0), text + 1);
   return height;
 }
@@ -91,6 +92,8 @@ double QRNDisplay::containerWidth() const {
 }
 
 void QRNDisplay::placeItems(const ColumnWidths& automatic) {
+  const ItemMeasures all{automatic, containerWidth(), GetHorizontalSpacing(), GetVerticalSpacing(),
+                         GetMenuItemHeight()};
   double y = 0, gap = 0;
   std::int32_t tab = 0;
   const WeakRef<host::Control> self(this);
@@ -101,37 +104,35 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
     if (!control || !control->Visible()) continue;
     control->SetTabIndex(++tab);
     if (auto* button = dynamic_cast<QRNMenuItem*>(control)) {
-      y = placeAction(*button, y, gap);
+      y = placeAction(*button, all, y, gap);
       gap = 0;
     } else {
-      y = placeRow(static_cast<QRNEdit&>(*control), automatic, y, gap);
-      if (self) gap = GetVerticalSpacing();
+      y = placeRow(static_cast<QRNEdit&>(*control), all, y, gap);
+      gap = all.verticalSpacing;
     }
   }
   if (self) setUpScrollBar(y);
 }
 
 // Answers where the item ends. Buttons touch each other; rows keep a distance from everything.
-double QRNDisplay::placeAction(QRNMenuItem& button, double y, double gap) {
-  const std::int32_t spacing = GetHorizontalSpacing(), height = GetMenuItemHeight();
+double QRNDisplay::placeAction(QRNMenuItem& button, const ItemMeasures& all, double y, double gap) {
   button.switchRedraw(false);
-  button.SetMargin(spacing);
+  button.SetMargin(all.horizontalSpacing);
   if (y > 0 && gap >= 1) y += gap;
-  button.Move(0, y, std::max(containerWidth() - spacing, kNarrowest), height);
+  button.Move(0, y, std::max(all.room - all.horizontalSpacing, kNarrowest), all.actionHeight);
   button.switchRedraw(true);
-  return y + height;
+  return y + all.actionHeight;
 }
 
-double QRNDisplay::placeRow(QRNEdit& row, const ColumnWidths& automatic, double y, double gap) {
-  const std::int32_t spacing = GetHorizontalSpacing();
+double QRNDisplay::placeRow(QRNEdit& row, const ItemMeasures& all, double y, double gap) {
   row.switchRedraw(false);
-  row.SetHorizontalSpacing(spacing);
-  const double width = std::max(containerWidth() - 2 * spacing, kNarrowest);
+  row.SetHorizontalSpacing(all.horizontalSpacing);
+  const double width = std::max(all.room - 2.0 * all.horizontalSpacing, kNarrowest);
   double free = width - row.GetMinBruttoWidth();
   for (int column = 0; column < kColumns; ++column) {
     if (!columns_.isAutomatic(column)) continue;
-    setWidth(row, column, automatic[static_cast<std::size_t>(column)]);
-    free -= automatic[static_cast<std::size_t>(column)];
+    setWidth(row, column, all.automatic[static_cast<std::size_t>(column)]);
+    free -= all.automatic[static_cast<std::size_t>(column)];
   }
   free = std::max(free, 1.0);
   for (int column = 0; column < kColumns; ++column) {
@@ -141,8 +142,8 @@ double QRNDisplay::placeRow(QRNEdit& row, const ColumnWidths& automatic, double 
   }
   if (!row.UnitVisible()) row.SetValueWidth(row.ValueWidth() + row.UnitWidth());
   const std::int32_t height = row.GetMinHeight();
-  if (y > 0) y += std::max(gap, static_cast<double>(GetVerticalSpacing()));
-  row.Move(spacing, y, width, height);
+  if (y > 0) y += std::max(gap, static_cast<double>(all.verticalSpacing));
+  row.Move(all.horizontalSpacing, y, width, height);
   row.switchRedraw(true);
   return y + height;
 }
@@ -150,7 +151,7 @@ double QRNDisplay::placeRow(QRNEdit& row, const ColumnWidths& automatic, double 
 // ---- scrolling ----
 
 std::int32_t QRNDisplay::scrollNumber(double value) const {
-  const double whole = rounded(value);
+  const double whole = roundHalfEven(value);
   if (!tallContent_ && whole > std::numeric_limits<std::int16_t>::max()) {
     raiseRunTimeError(kOverflow, typeName());
   }
@@ -164,6 +165,7 @@ void QRNDisplay::setUpScrollBar(double contentHeight) {
     sbrVertical_.SetMax(0);
   } else {
     sbrVertical_.SetMax(scrollNumber(contentHeight - room));
+    // A scroll bar can't go by nothing, though an action may be without height.
     sbrVertical_.SetLargeChange(std::max(1, scrollNumber(room)));
     sbrVertical_.SetSmallChange(std::max(1, scrollNumber(GetMenuItemHeight())));
   }
@@ -175,7 +177,7 @@ void QRNDisplay::setUpScrollBar(double contentHeight) {
 void QRNDisplay::applyScroll() { pbxContainer_.scrollTo(sbrVertical_.Value()); }
 
 bool QRNDisplay::wheel(double notches) {
-  if (!sbrVertical_.Visible()) return false;
+  if (!sbrVertical_.Visible() || !sbrVertical_.Enabled()) return false;
   const std::int32_t wished = sbrVertical_.Value() - scrollNumber(notches * sbrVertical_.SmallChange());
   sbrVertical_.SetValue(std::clamp(wished, sbrVertical_.Min(), sbrVertical_.Max()));
   applyScroll();

@@ -1,13 +1,11 @@
 #include "display/button_row.h"
 
 #include <algorithm>
-#include <cmath>
+
+#include "runtime/rounding.h"
 
 namespace qrn {
 namespace {
-
-// Ties go to the even neighbour.
-double rounded(double value) { return std::nearbyint(value); }
 
 // The width of one button; takes what that saves from what is still to be saved.
 double shrunk(const ButtonWidths& button, double& excess) {
@@ -20,15 +18,15 @@ double shrunk(const ButtonWidths& button, double& excess) {
 
 double startOf(std::int32_t alignment, double free) {
   switch (alignment) {
-    case 1: return rounded(free);
-    case 2: return rounded(free / 2);
+    case 1: return roundHalfEven(free);
+    case 2: return roundHalfEven(free / 2);
     default: return 0;
   }
 }
 
 }  // namespace
 
-std::int32_t halfOf(double height) { return static_cast<std::int32_t>(rounded(height)) / 2; }
+std::int32_t halfOf(double height) { return static_cast<std::int32_t>(roundHalfEven(height)) / 2; }
 
 std::vector<ButtonPlace> placeButtons(std::span<const ButtonWidths> buttons, double height, double room,
                                       std::int32_t alignment) {
@@ -42,7 +40,7 @@ std::vector<ButtonPlace> placeButtons(std::span<const ButtonWidths> buttons, dou
   if (room < narrowest)
     excess = widest - narrowest;
   else if (room < widest)
-    excess = rounded(widest - room);
+    excess = roundHalfEven(widest - room);
 
   std::vector<ButtonPlace> places;
   double x = startOf(alignment, room - (widest - excess));

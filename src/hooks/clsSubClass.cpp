@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "hooks/window_registry.h"
+#include "host/platform.h"
 
 namespace qrn {
 
@@ -10,7 +11,7 @@ clsSubClass::~clsSubClass() { SetHwnd(0); }
 
 void clsSubClass::SetHwnd(host::WindowHandle window) {
   if (hwnd_ != 0) unregisterWatcher(std::exchange(hwnd_, 0), *this);
-  host::Windows* const windows = threadWindows();
+  host::Windows* const windows = host::Platform::currentWindows();
   if (window == 0 || !windows) return;
   while (const host::WindowHandle parent = windows->parent(window)) window = parent;
   hwnd_ = window;

@@ -1,8 +1,10 @@
 #include "hooks/clsWndSubClass.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
-#include "hooks/window_registry.h"
+#include "host/platform.h"
 
 namespace qrn {
 namespace {
@@ -23,7 +25,7 @@ void clsWndSubClass::Remove(const clsSubClass& watcher) {
 }
 
 void clsWndSubClass::hook(host::WindowHandle window) {
-  host::Windows* const table = threadWindows();
+  host::Windows* const table = host::Platform::currentWindows();
   if (!table) return;
   if (table->property(window, kOldWindowProc) == 0) {
     table->setProperty(window, kObjectPointer, reinterpret_cast<std::intptr_t>(this));
@@ -34,7 +36,7 @@ void clsWndSubClass::hook(host::WindowHandle window) {
 }
 
 void clsWndSubClass::unhook() {
-  host::Windows* const table = threadWindows();
+  host::Windows* const table = host::Platform::currentWindows();
   const host::WindowHandle window = std::exchange(hwnd_, 0);
   // Another object may have hooked the window since.
   if (!table || table->property(window, kObjectPointer) != reinterpret_cast<std::intptr_t>(this)) return;
@@ -51,22 +53,30 @@ std::intptr_t clsWndSubClass::WindowProc(host::WindowHandle hwnd, std::uint32_t 
                                          std::intptr_t lParam) {
   // The last watcher may leave, and the window may go, while they are being told.
   const auto self = weak_from_this().lock();
-  host::Windows& table = *threadWindows();
+  host::Windows& table = *host::Platform::currentWindows();
   const std::intptr_t ownProcedure = table.property(hwnd, kOldWindowProc);
-  try {
+  const auto orUnhook = [this](auto&& call) {
+    try {
+      call();
+    } catch (...) {
+      unhook();
+    }
+  };
+  orUnhook([&] {
     const auto toTell = watchers_;
     for (clsSubClass* watcher : toTell) {
       if (watches(watcher)) watcher->WindowProc(hwnd, msg, wParam, lParam);
     }
-  } catch (...) {
-    unhook();
-  }
-  return table.callProcedure(ownProcedure, hwnd, {msg, wParam, lParam});
+  });
+  std::intptr_t answer = 0;
+  orUnhook([&] { answer = table.callProcedure(ownProcedure, hwnd, {msg, wParam, lParam}); });
+  return answer;
 }
 
 std::intptr_t clsWndSubClass::windowProcedure(host::WindowHandle hwnd, std::uint32_t msg,
                                               std::intptr_t wParam, std::intptr_t lParam) {
-  auto* const object = reinterpret_cast<clsWndSubClass*>(threadWindows()->property(hwnd, kObjectPointer));
+  auto* const object =
+      reinterpret_cast<clsWndSubClass*>(host::Platform::currentWindows()->property(hwnd, kObjectPointer));
   return object ? object->WindowProc(hwnd, msg, wParam, lParam) : 0;
 }
 

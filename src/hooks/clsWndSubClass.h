@@ -4,7 +4,6 @@
 #include <memory>
 #include <vector>
 
-#include "base/weak_ref.h"
 #include "hooks/clsSubClass.h"
 
 namespace qrn {
@@ -25,7 +24,8 @@ class clsWndSubClass : public std::enable_shared_from_this<clsWndSubClass> {
   /// 0 while no window is hooked.
   host::WindowHandle hwnd() const { return hwnd_; }
 
-  /// A watcher that fails is the last one that hears anything: the window gets its own procedure back.
+  /// A watcher that fails is the last one that hears anything: the window gets its own procedure back. So it
+  /// does when that fails itself; nothing is thrown.
   std::intptr_t WindowProc(host::WindowHandle hwnd, std::uint32_t msg, std::intptr_t wParam,
                            std::intptr_t lParam);
 

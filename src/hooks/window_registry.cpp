@@ -4,7 +4,6 @@
 #include <unordered_map>
 
 #include "hooks/clsWndSubClass.h"
-#include "host/platform.h"
 
 namespace qrn {
 namespace {
@@ -29,11 +28,6 @@ void unregisterWatcher(host::WindowHandle window, const clsSubClass& watcher) {
   if (found == registry().end()) return;
   found->second->Remove(watcher);
   if (found->second->Count() == 0) registry().erase(found);
-}
-
-host::Windows* threadWindows() {
-  host::Platform* const platform = host::Platform::current();
-  return platform ? &platform->windows() : nullptr;
 }
 
 int watchedWindows() { return static_cast<int>(registry().size()); }

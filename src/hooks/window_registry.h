@@ -11,7 +11,4 @@ void registerWatcher(host::WindowHandle window, clsSubClass& watcher);
 void unregisterWatcher(host::WindowHandle window, const clsSubClass& watcher);
 int watchedWindows();
 
-/// Null when the thread's platform has gone already: its windows have gone with it.
-host::Windows* threadWindows();
-
 }  // namespace qrn

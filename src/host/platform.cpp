@@ -16,4 +16,9 @@ Platform::~Platform() { std::erase(platforms, this); }
 
 Platform* Platform::current() { return platforms.empty() ? nullptr : platforms.back(); }
 
+Windows* Platform::currentWindows() {
+  Platform* const platform = current();
+  return platform ? &platform->windows() : nullptr;
+}
+
 }  // namespace qrn::host

@@ -67,6 +67,8 @@ class Platform {
 
   /// The one that this thread made last and still has, or null.
   static Platform* current();
+  /// The windows of that one, or null when it has gone already, and its windows with it.
+  static Windows* currentWindows();
 
   /// The native widget of a control, or null when it needs none.
   virtual std::unique_ptr<Peer> realise(Control& control) = 0;

@@ -66,6 +66,12 @@ std::intptr_t UserControl::windowMessage(const Message& message) {
   return message.number == wm::GetDlgCode ? dlgc::WantAllKeys : ContainerControl::windowMessage(message);
 }
 
+bool UserControl::propertyChanged(std::string_view key) {
+  const WeakRef<Control> self(this);
+  site_->propertyChanged(*this, key);
+  return static_cast<bool>(self);
+}
+
 void UserControl::setFont(FontPtr font) {
   font_ = font ? std::move(font) : platform().defaultFont();
   metrics_ = nullptr;

@@ -97,7 +97,8 @@ class UserControl : public ContainerControl, public Site {
   virtual void hide() {}
   virtual void terminate() {}
 
-  void propertyChanged(std::string_view key) { site_->propertyChanged(*this, key); }
+  /// Tells the site, which may do anything: answers whether the control is still there.
+  bool propertyChanged(std::string_view key);
   using Site::propertyChanged;
 
   void setFont(FontPtr font);

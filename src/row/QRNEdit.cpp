@@ -1,7 +1,5 @@
 #include "row/QRNEdit.h"
 
-#include <cmath>
-
 #include "diag/QRNErrors.h"
 #include "row/focus_watch.h"
 #include "row/icon_tracking.h"
@@ -66,8 +64,7 @@ void QRNEdit::SetScaleMode(std::int16_t mode) {
   rescaleParts(before);
   if (auto* composite = compositeEditor()) composite->SetScaleMode(mode);
   applyFont();
-  propertyChanged("ScaleMode");
-  layOut();
+  if (propertyChanged("ScaleMode")) layOut();
 }
 
 // What is on the screen stays where it is; only its numbers change.
@@ -105,17 +102,15 @@ void QRNEdit::SetEnabled(bool enabled) {
 void QRNEdit::SetFont(host::FontPtr font) {
   setFont(std::move(font));
   applyFont();
-  propertyChanged("Font");
-  layOut();
+  if (propertyChanged("Font")) layOut();
 }
 
-std::int32_t QRNEdit::widthOf(const host::Control& part) { return nearestLong(std::nearbyint(part.Width())); }
+std::int32_t QRNEdit::widthOf(const host::Control& part) { return nearestLong(roundHalfEven(part.Width())); }
 
 void QRNEdit::setPartWidth(host::Control& part, std::int32_t width, std::string_view key) {
   if (width == widthOf(part)) return;
   part.SetWidth(width);
-  propertyChanged(key);
-  layOut();
+  if (propertyChanged(key)) layOut();
 }
 
 void QRNEdit::setPartToolTip(host::Control& part, const std::string& text, std::string_view key) {
@@ -146,8 +141,8 @@ void QRNEdit::setIconPicture(Icon& icon, host::PicturePtr picture, std::string_v
   if (picture == icon.image.Picture()) return;
   const Rect before = icon.image.bounds();
   icon.image.SetPicture(std::move(picture));
-  propertyChanged(key);
-  if (before.size() != icon.image.bounds().size()) layOut();
+  const bool resized = before.size() != icon.image.bounds().size();
+  if (propertyChanged(key) && resized) layOut();
 }
 
 void QRNEdit::setIconHidden(Icon& icon, bool hidden, std::string_view key) {

@@ -262,8 +262,7 @@ class QRNEdit final : public host::UserControl {
   void storeAndLayOut(T& field, const T& value, std::string_view key) {
     if (field == value) return;
     field = value;
-    propertyChanged(key);
-    layOut();
+    if (propertyChanged(key)) layOut();
   }
   template <class T>
   void storeAndApply(T& field, const T& value, std::string_view key, void (QRNEdit::*apply)()) {
@@ -328,10 +327,12 @@ class QRNEdit final : public host::UserControl {
   void layOut();
   bool showEditor();
   double placeParts(double x, bool move);
+  double placeEditor(double x, bool move);
   double placeIcons(std::int32_t column, double x, bool move);
   void applyIconVisibility();
   bool iconShown(const Icon& icon) const { return icon.column >= 1 && icon.visible && !icon.hidden; }
   std::int32_t iconWidth(const Icon& icon) const;
+  double overhead() const;
   std::int32_t textHeight() const;
   std::int32_t rowHeight() const;
 

@@ -60,8 +60,7 @@ void QRNEdit::SetValueType(qrnValueType type) {
   const bool focused = takeFocusFromEditor(type);
   if (!self) return;
   switchEditor(type);
-  propertyChanged("ValueType");
-  layOut();
+  if (propertyChanged("ValueType")) layOut();
   if (self && focused) input().setFocus(focusTarget());
 }
 
@@ -171,8 +170,8 @@ void QRNEdit::applyLocked() {
     cboValue_->Combo().SetBackColor(background);
   } else if (lstValue_) {
     lstValue_->List().SetBackColor(background);
-  } else if (chkValue_) {
-    chkValue_->Check().SetEnabled(Enabled() && !locked_);
+  } else {
+    applyEnabled();
   }
 }
 

@@ -11,11 +11,6 @@ namespace {
 constexpr std::int32_t kHoverInterval = 70;  // milliseconds
 constexpr std::int32_t kTraceLevel = 0;
 
-bool isInside(const host::Control& part, Point at) {
-  const Size size = part.pixelSize();
-  return at.x >= 0 && at.x < size.width && at.y >= 0 && at.y < size.height;
-}
-
 /// Counts a change of the editor while it is being handled, also when that fails.
 class HandlingChange {
  public:
@@ -133,7 +128,7 @@ void QRNEdit::mouseDown(host::MouseButton button, std::int16_t, Point) {
 }
 
 void QRNEdit::mouseUp(host::MouseButton button, std::int16_t, Point at) {
-  const bool inside = isInside(*this, at);
+  const bool inside = contains(at);
   if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;
@@ -156,11 +151,11 @@ void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std
 void QRNEdit::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point at) {
   Icon* icon = iconOf(child);
   // A pressed icon hears of the mouse wherever it goes.
-  if (icon && icon->mode != qrnbuttonNone && Enabled() && isInside(child, at)) trackIcon(*icon);
+  if (icon && icon->mode != qrnbuttonNone && Enabled() && child.contains(at)) trackIcon(*icon);
 }
 
 void QRNEdit::childMouseUp(host::Control& child, host::MouseButton button, std::int16_t, Point at) {
-  const bool inside = isInside(child, at);
+  const bool inside = child.contains(at);
   if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;

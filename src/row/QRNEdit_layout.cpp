@@ -7,7 +7,7 @@
 namespace qrn {
 namespace {
 
-std::int32_t toLong(double value) { return nearestLong(std::nearbyint(value)); }
+std::int32_t toLong(double value) { return nearestLong(roundHalfEven(value)); }
 
 // A width that only misses a whole number by what the conversion of scales leaves is that number.
 std::int32_t roundedUp(double value) {
@@ -16,7 +16,7 @@ std::int32_t roundedUp(double value) {
 }
 
 void moveTo(host::Control& part, double left, double top) {
-  part.Move(std::nearbyint(left), std::nearbyint(top), part.Width(), part.Height());
+  part.Move(roundHalfEven(left), roundHalfEven(top), part.Width(), part.Height());
 }
 
 }  // namespace
@@ -50,20 +50,19 @@ std::int32_t QRNEdit::GetMinValueWidth() const {
 }
 
 std::int32_t QRNEdit::GetMinWidth() const {
-  const std::int32_t spacing = horizontalSpacing_;
-  std::int32_t width = -spacing;
-  for (const Icon* icon : {&icon1_, &icon2_}) {
-    if (icon->visible && icon->column >= 1) width += iconWidth(*icon) + spacing;
-  }
-  if (labelVisible_) width += GetMinLabelWidth() + spacing;
-  if (valueVisible_) width += GetMinValueWidth() + spacing;
-  if (unitVisible_) width += GetMinUnitWidth() + spacing;
-  return width;
+  double width = overhead();
+  if (labelVisible_) width += GetMinLabelWidth();
+  if (valueVisible_) width += GetMinValueWidth();
+  if (unitVisible_) width += GetMinUnitWidth();
+  return nearestLong(width);
 }
 
-std::int32_t QRNEdit::GetMinBruttoWidth() const {
-  const std::int32_t spacing = horizontalSpacing_;
-  std::int32_t width = -spacing;
+std::int32_t QRNEdit::GetMinBruttoWidth() const { return nearestLong(overhead()); }
+
+// The icons, and a spacing between any two parts; in doubles, as a spacing may be as large as a Long.
+double QRNEdit::overhead() const {
+  const double spacing = horizontalSpacing_;
+  double width = -spacing;
   for (const Icon* icon : {&icon1_, &icon2_}) {
     if (icon->visible && icon->column >= 1) width += iconWidth(*icon) + spacing;
   }
@@ -105,7 +104,7 @@ void QRNEdit::layOut() {
 
 // Icons, caption, icons, value, icons, unit, icons; answers where the next part would start.
 double QRNEdit::placeParts(double x, bool move) {
-  const std::int32_t text = textHeight(), row = rowHeight(), room = toLong(ScaleHeight());
+  const std::int32_t text = textHeight(), row = rowHeight();
   const auto placeLabel = [&](host::Label& label) {
     if (move) {
       label.SetHeight(text);
@@ -116,20 +115,25 @@ double QRNEdit::placeParts(double x, bool move) {
   x = placeIcons(1, x, move);
   if (labelVisible_) placeLabel(lblLabel_);
   x = placeIcons(2, x, move);
-  if (host::Control* frame = editorFrame(); frame && valueVisible_) {
-    double height = room;
-    if (chkValue_)
-      height = row;
-    else if (cboValue_)
-      height = cboValue_->Combo().Height();
-    else if (lstValue_)
-      height = std::min(GetMinHeight(), room);
-    if (move) frame->Move(std::nearbyint(x), 0, frame->Width(), height);
-    x += frame->Width() + horizontalSpacing_;
-  }
+  if (valueVisible_) x = placeEditor(x, move) + horizontalSpacing_;
   x = placeIcons(3, x, move);
   if (unitVisible_) placeLabel(lblUnit_);
   return placeIcons(4, x, move);
+}
+
+// A value without an editor takes no width, but its spacing.
+double QRNEdit::placeEditor(double x, bool move) {
+  host::Control* const frame = editorFrame();
+  if (!frame) return x;
+  double height = toLong(ScaleHeight());
+  if (chkValue_)
+    height = rowHeight();
+  else if (cboValue_)
+    height = cboValue_->Combo().Height();
+  else if (lstValue_)
+    height = std::min<double>(GetMinHeight(), height);
+  if (move) frame->Move(roundHalfEven(x), 0, frame->Width(), height);
+  return x + frame->Width();
 }
 
 double QRNEdit::placeIcons(std::int32_t column, double x, bool move) {

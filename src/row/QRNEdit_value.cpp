@@ -99,8 +99,7 @@ std::string QRNEdit::formatted(const Variant& value) const {
 
 void QRNEdit::SetValue(const Variant& value) {
   showValue(value);
-  propertyChanged("Value");
-  propertyChanged("ValueText");
+  if (propertyChanged("Value")) propertyChanged("ValueText");
 }
 
 // Whatever the conversions refuse leaves the row as it was: each form is complete before anything is kept.

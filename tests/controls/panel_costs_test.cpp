@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <functional>
@@ -170,7 +171,27 @@ TEST_F(PanelCosts, AFullLayoutOfUnchangedRowsMeasuresNoTextOfThem) {
   addRows(10);
   panel->LayoutControls(false);
   const Cost few = costOf([&] { panel->LayoutControls(false); });
-  EXPECT_LE(few.measured, 3 * 10);  // the width of a digit, which the spacing follows from
+  EXPECT_EQ(few.measured, 1);  // the width of a digit, which the spacing follows from
+}
+
+TEST_F(PanelCosts, ARowIsLaidOutOnceHowEverManyOfItsColumnsChange) {
+  addRows(1);
+  panel->LayoutControls(false);
+  panel->realise();
+  const auto layouts = [&](std::int32_t label, std::int32_t value, std::int32_t unit) {
+    row(1).SetLabelWidth(label);
+    row(1).SetValueWidth(value);
+    row(1).SetUnitWidth(unit);
+    auto& areas = static_cast<headless::HeadlessPeer*>(panel->peer())->invalidated;
+    areas.clear();
+    panel->LayoutControls(false);
+    const Rect whole = row(1).visibleOnSurface();
+    return std::count(areas.begin(), areas.end(), whole);
+  };
+  const ColumnWidths fit{row(1).LabelWidth(), row(1).ValueWidth(), row(1).UnitWidth()};
+  const auto one = layouts(fit[0] + 9, fit[1], fit[2]);
+  EXPECT_GT(one, 0);
+  EXPECT_EQ(layouts(fit[0] + 9, fit[1] + 9, fit[2] + 9), one);
 }
 
 TEST_F(PanelCosts, AValueWrittenOffScreenPaintsNothingAndTellsNoPeer) {

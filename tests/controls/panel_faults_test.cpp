@@ -7,6 +7,7 @@
 
 #include "controls/raised.h"
 #include "diag/QRNErrors.h"
+#include "support/meddling_site.h"
 #include "support/panel_fixture.h"
 
 namespace qrn::test {
@@ -210,6 +211,24 @@ TEST_F(FaultsWhileLayingOut, ThePanelMayGo) {
   EXPECT_EQ(panel_, nullptr);
 }
 
+TEST_F(FaultsWhileLayingOut, ThePanelMayGoInsideItsResize) {
+  const auto connection = ending([this] { panel_.reset(); });
+  panel().Move(0, 0, 500, 300);
+  EXPECT_EQ(panel_, nullptr);
+}
+
+TEST_F(FaultsWhileLayingOut, ThePanelMayGoInsideASetterThatArrangesIt) {
+  const auto connection = ending([this] { panel_.reset(); });
+  panel().SetLeftMargin(50);
+  EXPECT_EQ(panel_, nullptr);
+}
+
+TEST_F(FaultsWhileLayingOut, ThePanelMayGoInsideTheArrivalOfAButton) {
+  const auto connection = ending([this] { panel_.reset(); });
+  panel().Buttons().AddButton("OK", "OK");
+  EXPECT_EQ(panel_, nullptr);
+}
+
 TEST_F(FaultsWhileLayingOut, AnErrorLeavesAPanelThatCanBeLaidOutAgain) {
   {
     const auto connection = ending([] { RaiseError(kOwnError, "listener"); });
@@ -218,6 +237,41 @@ TEST_F(FaultsWhileLayingOut, AnErrorLeavesAPanelThatCanBeLaidOutAgain) {
   panel().LayoutControls(false);
   EXPECT_TRUE(row(2).Redraw());
   EXPECT_EQ(row(3).TabIndex(), 3);
+}
+
+class PanelNotifications : public ::testing::Test {
+ protected:
+  PanelNotifications() { registerControls(); }
+  headless::HeadlessPlatform platform;
+  MeddlingSite site{platform};
+  host::Owned<QRNDisplay> panel = host::create<QRNDisplay>(site);
+};
+
+TEST_F(PanelNotifications, ComeAfterWhatTheChangeLedTo) {
+  double left = 0;
+  site.on("LeftMargin", [&](host::UserControl&) { left = panel->ControlsContainer().Left(); });
+  panel->SetLeftMargin(20);
+  EXPECT_EQ(left, 20);
+}
+
+TEST_F(PanelNotifications, MayBeTheEndOfThePanel) {
+  const std::pair<const char*, std::function<void(QRNDisplay&)>> changes[] = {
+      {"Title", [](QRNDisplay& one) { one.SetTitle("x"); }},
+      {"LeftMargin", [](QRNDisplay& one) { one.SetLeftMargin(20); }},
+      {"Active", [](QRNDisplay& one) { one.SetActive(false); }},
+      {"BorderStyle", [](QRNDisplay& one) { one.SetBorderStyle(qrnEdgeSimple); }},
+      {"TitleStyle", [](QRNDisplay& one) { one.SetTitleStyle(qrnTitleDialog); }},
+      {"Font", [](QRNDisplay& one) { one.SetFont(std::make_shared<host::Font>("Serif", 20)); }},
+      {"Enabled", [](QRNDisplay& one) { one.SetEnabled(false); }},
+      {"ButtonsAlignment", [](QRNDisplay& one) { one.SetButtonsAlignment(2); }},
+  };
+  for (const auto& [key, change] : changes) {
+    panel = host::create<QRNDisplay>(site);
+    panel->Items().AddParameter("A", qrnTypeLong);
+    site.on(key, [&](host::UserControl&) { panel.reset(); });
+    change(*panel);
+    EXPECT_EQ(panel, nullptr) << key;
+  }
 }
 
 }  // namespace

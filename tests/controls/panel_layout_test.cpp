@@ -290,6 +290,31 @@ TEST_F(PanelLayout, TheWheelScrollsByActionHeightsWithinTheRange) {
   EXPECT_EQ(panel().sbrVertical().Value(), 0);
 }
 
+TEST_F(PanelLayout, TheWheelScrollsNoDisabledPanel) {
+  addRows(20);
+  panel().LayoutControls(false);
+  panel().SetEnabled(false);
+  user->turnsWheel({100, 100}, -2);
+  EXPECT_EQ(panel().sbrVertical().Value(), 0);
+}
+
+TEST_F(PanelLayout, ActionsWithoutHeightStillLetTheScrollBarMove) {
+  panel().SetMenuItemHeight(0);
+  addRows(20);
+  panel().LayoutControls(false);
+  EXPECT_EQ(panel().sbrVertical().SmallChange(), 1);
+}
+
+TEST_F(PanelLayout, AnErrorOfTheItemsLeavesTheRestOfThePanelArranged) {
+  panel().SetMenuItemHeight(20000);
+  items().AddAction("A", ddtypeMethod);
+  items().AddAction("B", ddtypeMethod);
+  EXPECT_THROW(panel().LayoutControls(false), RunTimeError);
+  EXPECT_THROW(panel().Move(0, 0, 500, 300), RunTimeError);
+  EXPECT_EQ(panel().ControlsContainer().bounds().right(), 495);
+  EXPECT_EQ(panel().sbrVertical().bounds().right(), 495);
+}
+
 TEST_F(PanelLayout, ContentThatShrinksScrollsBack) {
   addRows(20);
   panel().LayoutControls(false);

@@ -91,10 +91,16 @@ TEST_F(Panel, RowsTakeThePanelsLookWhenTheyAreMade) {
   panel().SetForeColor(host::rgb(1, 2, 3));
   panel().SetFont(std::make_shared<host::Font>("Serif", 11));
   const auto early = addParameter("early");
+  const host::Color before = panel().BackColor();
   panel().SetForeColor(host::rgb(4, 5, 6));
+  panel().SetBackColor(host::rgb(7, 8, 9));
+  panel().SetFont(std::make_shared<host::Font>("Mono", 12));
   const auto late = addParameter("late");
   EXPECT_EQ(early->Control().ForeColor(), host::rgb(1, 2, 3));
+  EXPECT_EQ(early->Control().BackColor(), before);
   EXPECT_EQ(early->Control().Font()->family, "Serif");
+  EXPECT_EQ(late->Control().BackColor(), host::rgb(7, 8, 9));
+  EXPECT_EQ(late->Control().Font()->family, "Mono");
   EXPECT_EQ(late->Control().ForeColor(), host::rgb(4, 5, 6));
 }
 
@@ -198,9 +204,12 @@ TEST_F(Panel, RestoringArrangesAsTheStoredMarginsSay) {
 // ---- redraw ----
 
 TEST_F(Panel, RedrawIsFalseUntilThePanelIsShown) {
-  EXPECT_TRUE(panel().Redraw());
-  const auto other = host::create<QRNDisplay>(site);
-  EXPECT_TRUE(other->Redraw());
+  host::Owned<QRNDisplay> hidden(new QRNDisplay);
+  hidden->SetVisible(false);
+  host::LifeCycle::start(*hidden, site, nullptr);
+  EXPECT_FALSE(hidden->Redraw());
+  hidden->SetVisible(true);
+  EXPECT_TRUE(hidden->Redraw());
 }
 
 TEST_F(Panel, NothingIsArrangedWhileRedrawIsOff) {

@@ -81,6 +81,10 @@ TEST_F(AnEditor, HandsItsColourToolTipAndWidthToTheNextOne) {
     useType(type);
     EXPECT_EQ(row().ValueForeColor(), host::rgb(1, 2, 3)) << type;
     EXPECT_EQ(row().ValueToolTip(), "Seconds") << type;
+    // A disabled check box shows none itself, so what it lies in has it as well.
+    if (type == qrnTypeBoolean) {
+      EXPECT_EQ(checkBox().Container()->ToolTipText(), "Seconds");
+    }
     EXPECT_EQ(row().ValueWidth(), 66) << type;
   }
 }
@@ -114,6 +118,15 @@ TEST_F(AnEditor, TakesTheSettingsOfItsRowWhenItIsMade) {
   EXPECT_FALSE(textBox().Enabled());
   EXPECT_FALSE(textBox().Visible());
   EXPECT_EQ(*textBox().Font(), *font);
+}
+
+TEST_F(AnEditor, OfEveryKindIsMadeInvisibleInARowThatHidesItsValue) {
+  row().SetValueVisible(false);
+  for (const auto type : {qrnTypeString, qrnTypeBoolean, qrnTypeList, qrnTypeBitfield}) {
+    useType(type);
+    EXPECT_FALSE(editor().shown()) << type;
+    EXPECT_TRUE(editor().visibleOnSurface().empty()) << type;
+  }
 }
 
 TEST_F(AnEditor, OfEveryKindTakesTheFontOfItsRow) {

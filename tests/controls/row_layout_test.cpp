@@ -348,9 +348,19 @@ TEST_F(ARowLaidOut, KeepsTheWidthOfItsEditor) {
   }
 }
 
-TEST_F(ARowLaidOut, PlacesTheUnitBehindTheCaptionWithoutAnEditor) {
+TEST_F(ARowLaidOut, KeepsTheSpacingOfAValueWithoutAnEditor) {
+  const double withEditor = leftOf(row().lblUnit());
+  row().SetValueWidth(0);
+  EXPECT_EQ(leftOf(row().lblUnit()), withEditor - 100);
   useType(qrnTypeArray);
-  EXPECT_EQ(leftOf(row().lblUnit()), 108);
+  EXPECT_EQ(leftOf(row().lblUnit()), withEditor - 100) << "as wide as GetMinWidth says";
+}
+
+TEST_F(ARowLaidOut, NeedsNoMoreThanALongHowEverWideItsSpacingIs) {
+  row().SetHorizontalSpacing(std::numeric_limits<std::int32_t>::max());
+  EXPECT_EQ(row().GetMinWidth(), std::numeric_limits<std::int32_t>::max());
+  row().SetHorizontalSpacing(std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(row().GetMinBruttoWidth(), std::numeric_limits<std::int32_t>::min());
 }
 
 TEST_F(ARowLaidOut, IsPaintedAgainAfterEveryLayout) {

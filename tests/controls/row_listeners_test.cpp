@@ -5,6 +5,7 @@
 #include "controls/raised.h"
 #include "diag/QRNErrors.h"
 #include "row_events_fixture.h"
+#include "support/meddling_site.h"
 
 namespace qrn::test {
 namespace {
@@ -229,18 +230,6 @@ TEST_F(RowEvents, MayDestroyARowWhoseIconIsBeingWatched) {
 
 // ---- notifications are answered as freely as events ----
 
-/// Does something to the row when one of its properties has changed.
-struct MeddlingSite final : headless::HeadlessSite {
-  using HeadlessSite::HeadlessSite;
-  void propertyChanged(host::UserControl& control, std::string_view key) override {
-    if (key != wanted) return;
-    const auto once = std::exchange(deed, nullptr);
-    if (once) once(static_cast<QRNEdit&>(control));
-  }
-  std::string wanted;
-  std::function<void(QRNEdit&)> deed;
-};
-
 class RowNotifications : public ::testing::Test {
  protected:
   RowNotifications() { registerControls(); }
@@ -250,8 +239,7 @@ class RowNotifications : public ::testing::Test {
 
 TEST_F(RowNotifications, OfANewTypeMayLeadToAnother) {
   const auto row = host::create<QRNEdit>(site);
-  site.wanted = "ValueType";
-  site.deed = [](QRNEdit& changed) { changed.SetValueType(qrnTypeBoolean); };
+  site.on("ValueType", [&](host::UserControl&) { row->SetValueType(qrnTypeBoolean); });
   row->SetValueType(qrnTypeList);
   EXPECT_EQ(row->ValueType(), qrnTypeBoolean);
   EXPECT_EQ(row->CurrentEditor()->typeName(), "CheckBox");
@@ -260,10 +248,34 @@ TEST_F(RowNotifications, OfANewTypeMayLeadToAnother) {
 TEST_F(RowNotifications, OfAValueMayTakeTheEditorAway) {
   const auto row = host::create<QRNEdit>(site);
   row->SetValueType(qrnTypeLong);
-  site.wanted = "Value";
-  site.deed = [](QRNEdit& changed) { changed.SetValueType(qrnTypeArray); };
+  site.on("Value", [&](host::UserControl&) { row->SetValueType(qrnTypeArray); });
   row->SetValue(Variant(5));
   EXPECT_EQ(row->CurrentEditor(), nullptr);
+}
+
+TEST_F(RowNotifications, MayBeTheEndOfTheRow) {
+  const std::pair<const char*, std::function<void(QRNEdit&)>> changes[] = {
+      {"ScaleMode", [](QRNEdit& one) { one.SetScaleMode(1); }},
+      {"ValueType", [](QRNEdit& one) { one.SetValueType(qrnTypeList); }},
+      {"Font", [](QRNEdit& one) { one.SetFont(std::make_shared<host::Font>("Serif", 20)); }},
+      {"HorizontalSpacing", [](QRNEdit& one) { one.SetHorizontalSpacing(9); }},
+      {"LabelWidth", [](QRNEdit& one) { one.SetLabelWidth(9); }},
+      {"ValueWidth", [](QRNEdit& one) { one.SetValueWidth(9); }},
+      {"Icon1Picture", [](QRNEdit& one) { one.SetIcon1Picture(picture(9, 9)); }},
+      {"Icon2ButtonMode", [](QRNEdit& one) { one.SetIcon2ButtonMode(qrnButtonFlat); }},
+      {"Locked", [](QRNEdit& one) { one.SetLocked(true); }},
+      {"Enabled", [](QRNEdit& one) { one.SetEnabled(false); }},
+      {"Value", [](QRNEdit& one) { one.SetValue(Variant(5)); }},
+      {"ValueText", [](QRNEdit& one) { one.SetValue(Variant(5)); }},
+  };
+  for (const auto& [key, change] : changes) {
+    auto row = host::create<QRNEdit>(site);
+    row->SetValueType(qrnTypeLong);
+    row->SetFocus();
+    site.on(key, [&](host::UserControl&) { row.reset(); });
+    change(*row);
+    EXPECT_EQ(row, nullptr) << key;
+  }
 }
 
 }  // namespace

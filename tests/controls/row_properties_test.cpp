@@ -274,7 +274,7 @@ TEST_F(ARow, PassesItsEnabledStateOnToItsTexts) {
 TEST_F(ARow, PaintsItsTextsInItsForeColor) {
   row().SetForeColor(host::rgb(0x12, 0x34, 0x56));
   // The unit lies behind a spacing, the caption and its spacing, with no icon pictures and no editor.
-  EXPECT_EQ(painted("text"), (Events{"text 4,4 \"Label\" #123456", "text 108,4 \"Unit\" #123456"}));
+  EXPECT_EQ(painted("text"), (Events{"text 4,4 \"Label\" #123456", "text 112,4 \"Unit\" #123456"}));
 }
 
 // ---- redraw ----

@@ -78,7 +78,7 @@ std::intptr_t failing(WindowHandle, std::uint32_t, std::intptr_t, std::intptr_t)
   raiseRunTimeError(kOverflow);
 }
 
-TEST_F(EditHook, ARunTimeErrorOfTheEditorEndsInTheHook) {
+TEST_F(EditHook, AnErrorOfTheEditorEndsInTheHook) {
   platform.windows().setLong(top.handle, host::kGwlWndProc, reinterpret_cast<std::intptr_t>(&failing));
   hook.SetHwnd(top.handle);
   EXPECT_EQ(send(top.handle, host::wm::GetDlgCode), 0);

@@ -123,6 +123,19 @@ TEST_F(WindowWatching, AnyFailureUnhooksNotOnlyRunTimeErrors) {
   EXPECT_EQ(procedureOf(top.handle), ownProcedure);
 }
 
+std::intptr_t failing(WindowHandle, std::uint32_t, std::intptr_t, std::intptr_t) {
+  throw std::logic_error("a mistake behind the hook");
+}
+
+TEST_F(WindowWatching, AProcedureThatFailsBehindTheHookUnhooksToo) {
+  const auto broken = reinterpret_cast<std::intptr_t>(&failing);
+  platform.windows().setLong(top.handle, host::kGwlWndProc, broken);
+  a.application.SetHwnd(top.handle);
+  EXPECT_NO_THROW(EXPECT_EQ(send(top.handle, host::wm::Close), 0));
+  EXPECT_EQ(heard, (Heard{"a lost"}));
+  EXPECT_EQ(procedureOf(top.handle), broken);
+}
+
 TEST_F(WindowWatching, StartsAgainOnceTheWatchersOfAFailureHaveAllLeft) {
   a.application.SetHwnd(top.handle);
   a.then = [] { raiseRunTimeError(kOverflow); };
