@@ -16,6 +16,8 @@ namespace {
 
 using Type = Variant::Type;
 
+constexpr int kCurrencyDecimals = 4;
+
 [[noreturn]] void raiseMismatch() { raiseRunTimeError(kTypeMismatch); }
 
 // For the types that no number can be made of.
@@ -43,6 +45,19 @@ Integer wholeFrom(double value) {
   return checkedWhole<Integer>(static_cast<std::int64_t>(roundHalfEven(value)));
 }
 
+// The number in units of 10^-decimals, half to even. Rounded once: cut to the digits of a Decimal first, what
+// lies just above a tie would become one.
+std::int64_t wholeUnits(const NumberText& number, int decimals) {
+  const std::int64_t exponent = number.exponent + decimals;
+  const std::int64_t wholeDigits = static_cast<std::int64_t>(number.digits.size()) + exponent;
+  if (exponent >= 0 || wholeDigits < 0)
+    return Decimal::fromDigits(number.negative, number.digits, exponent).toInt64();
+  // One digit behind the point, and one that says whether there is anything else.
+  std::string digits = number.digits.substr(0, static_cast<std::size_t>(wholeDigits) + 1);
+  digits += number.digits.find_first_not_of('0', digits.size()) == std::string::npos ? '0' : '1';
+  return Decimal::fromDigits(number.negative, digits, -2).toInt64();
+}
+
 // Bits as wide as the type are taken as they stand: &HFFFF is -1 as an Integer, 65535 as a Long.
 template <class Integer>
 Integer wholeFrom(const NumberText& number) {
@@ -51,8 +66,7 @@ Integer wholeFrom(const NumberText& number) {
     if (number.bits > std::numeric_limits<Unsigned>::max()) raiseRunTimeError(kOverflow);
     return static_cast<Integer>(static_cast<Unsigned>(number.bits));
   }
-  return checkedWhole<Integer>(
-      Decimal::fromDigits(number.negative, number.digits, number.exponent).toInt64());
+  return checkedWhole<Integer>(wholeUnits(number, 0));
 }
 
 template <class Integer>
@@ -105,15 +119,11 @@ Currency currencyFrom(double value) {
   return {static_cast<std::int64_t>(whole)};
 }
 
-Currency currencyFrom(const NumberText& number) {
-  constexpr int kDecimals = 4;
-  return {Decimal::fromDigits(number.negative, number.digits, number.exponent + kDecimals).toInt64()};
-}
+Currency currencyFrom(const NumberText& number) { return {wholeUnits(number, kCurrencyDecimals)}; }
 
 Decimal decimalFrom(Currency value) {
-  constexpr int kDecimals = 4;
   const Decimal whole(value.tenThousandths);
-  return Decimal::fromMantissa(whole.isNegative(), whole.mantissa(), kDecimals);
+  return Decimal::fromMantissa(whole.isNegative(), whole.mantissa(), kCurrencyDecimals);
 }
 
 Date checkedDate(double serial) {
@@ -164,7 +174,8 @@ double CDbl(const Variant& value) {
 Currency CCur(const Variant& value) {
   switch (value.type()) {
     case Type::Currency: return *value.get<Currency>();
-    case Type::Decimal: return {(*value.get<Decimal>() * Decimal(Currency::kUnit)).toInt64()};
+    case Type::Decimal:
+      return {(value.get<Decimal>()->rounded(kCurrencyDecimals) * Decimal(Currency::kUnit)).toInt64()};
     case Type::String: return currencyFrom(numberFrom(*value.get<std::string>()));
     default: return currencyFrom(CDbl(value));
   }

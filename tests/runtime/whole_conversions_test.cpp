@@ -92,6 +92,26 @@ TEST(CIntOf, HalvesGoToTheEvenNeighbour) {
                    });
 }
 
+TEST(CIntOf, EveryDigitOfATextCountsForATie) {
+  const std::string zeros(50, '0');
+  expectRows(CInt, {
+                       {"2.5" + zeros, "2"},
+                       {"2.5" + zeros + "1", "3"},
+                       {"-2.5" + zeros + "1", "-3"},
+                       {"2.4" + std::string(50, '9'), "2"},
+                       {"0.5" + zeros + "1", "1"},
+                       {"0.05" + zeros + "1", "0"},
+                       {"25" + zeros + "1e-52", "3"},
+                       {"25" + zeros + "e-51", "2"},
+                       {"32767.5", "error 6"},
+                       {"32767.4" + std::string(50, '9'), "32767"},
+                       {"-32768.5", "-32768"},
+                       {"-32768.5" + zeros + "1", "error 6"},
+                       {"0." + zeros + "9", "0"},
+                       {"0" + zeros + "7", "7"},
+                   });
+}
+
 TEST(CIntOf, AnythingOutsideSixteenBitsOverflows) {
   expectRows(CInt, {
                        {32767.0, "32767"},
