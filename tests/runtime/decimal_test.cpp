@@ -1,8 +1,6 @@
 #include "runtime/decimal.h"
 
-#include <random>
-
-#include "runtime/outcome.h"
+#include "runtime/random_input.h"
 
 namespace qrn::test {
 namespace {
@@ -42,20 +40,22 @@ Int128 shiftedHalfEven(Int128 value, int digits) {
   return quotient;
 }
 
-/// Numbers of all sizes: a random number of bits of a random number.
-std::int64_t anyNumber(std::mt19937_64& random) {
-  return static_cast<std::int64_t>(random()) >> (random() % 64);
-}
+class DecimalNumbers : public RandomInput {
+ protected:
+  /// Of 96 bits or fewer, with a sign.
+  Int128 mantissa() {
+    const auto high = static_cast<Int128>(bits() >> 32) << 64;
+    const Int128 all = (high | static_cast<Int128>(bits())) >> (toss() ? 0 : below(96));
+    return toss() ? -all : all;
+  }
+};
 
-TEST(DecimalNumbers, AddAndSubtractLikeWholeNumbers) {
-  const std::uint64_t seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937_64 random(seed);
+TEST_F(DecimalNumbers, AddAndSubtractLikeWholeNumbers) {
   for (int round = 0; round < 20000; ++round) {
-    const Int128 a = anyNumber(random);
-    const Int128 b = anyNumber(random);
-    const int scaleA = static_cast<int>(random() % 9);
-    const int scaleB = static_cast<int>(random() % 9);
+    const Int128 a = whole();
+    const Int128 b = whole();
+    const int scaleA = static_cast<int>(below(9));
+    const int scaleB = static_cast<int>(below(9));
     const int scale = std::max(scaleA, scaleB);
     const Int128 wideA = a * powerOfTen(scale - scaleA);
     const Int128 wideB = b * powerOfTen(scale - scaleB);
@@ -65,20 +65,17 @@ TEST(DecimalNumbers, AddAndSubtractLikeWholeNumbers) {
         << digitsOf(a) << ' ' << digitsOf(b);
     ASSERT_EQ((x - y).toText(), decimalOf(wideA - wideB, scale).toText())
         << digitsOf(a) << ' ' << digitsOf(b);
-    ASSERT_EQ(x < y, wideA < wideB);
-    ASSERT_EQ(x == y, wideA == wideB);
+    ASSERT_EQ(x < y, wideA < wideB) << digitsOf(a) << ' ' << digitsOf(b);
+    ASSERT_EQ(x == y, wideA == wideB) << digitsOf(a) << ' ' << digitsOf(b);
   }
 }
 
-TEST(DecimalNumbers, MultiplyLikeWholeNumbersAndRoundHalfToEven) {
-  const std::uint64_t seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937_64 random(seed);
+TEST_F(DecimalNumbers, MultiplyLikeWholeNumbersAndRoundHalfToEven) {
   for (int round = 0; round < 20000; ++round) {
-    const Int128 a = anyNumber(random) >> 16;
-    const Int128 b = anyNumber(random) >> 18;
-    const int scaleA = static_cast<int>(random() % 29);
-    const int scaleB = static_cast<int>(random() % 29);
+    const Int128 a = whole() >> 16;
+    const Int128 b = whole() >> 18;
+    const int scaleA = static_cast<int>(below(29));
+    const int scaleB = static_cast<int>(below(29));
     const Int128 product = a * b;  // below 2^93, so only the scale can make it round
     const int excess = std::max(scaleA + scaleB - Decimal::kMaxScale, 0);
     const Int128 rounded = shiftedHalfEven(product, std::min(excess, 38));
@@ -88,38 +85,67 @@ TEST(DecimalNumbers, MultiplyLikeWholeNumbersAndRoundHalfToEven) {
   }
 }
 
-TEST(DecimalNumbers, RoundLikeWholeNumbers) {
-  const std::uint64_t seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937_64 random(seed);
+TEST_F(DecimalNumbers, RoundLikeWholeNumbers) {
   for (int round = 0; round < 20000; ++round) {
-    const Int128 a = anyNumber(random) / 10 * 10 + 5 * static_cast<int>(random() % 2);  // ties are common
-    const int scale = static_cast<int>(random() % 19);
-    const int decimals = static_cast<int>(random() % 19);
+    const Int128 a = whole() / 10 * 10 + 5 * static_cast<int>(below(2));  // ties are common
+    const int scale = static_cast<int>(below(19));
+    const int decimals = static_cast<int>(below(19));
     const Int128 rounded = decimals >= scale ? a : shiftedHalfEven(a, scale - decimals);
     ASSERT_EQ(decimalOf(a, scale).rounded(decimals).toText(),
               decimalOf(rounded, std::min(scale, decimals)).toText())
         << digitsOf(a) << " scale " << scale << " to " << decimals;
-    const Int128 whole = shiftedHalfEven(a, scale);
-    ASSERT_EQ(std::to_string(decimalOf(a, scale).toInt64()), digitsOf(whole));
+    ASSERT_EQ(std::to_string(decimalOf(a, scale).toInt64()), digitsOf(shiftedHalfEven(a, scale)))
+        << digitsOf(a) << " scale " << scale;
   }
 }
 
-TEST(DecimalNumbers, EveryMantissaComesBackFromItsText) {
-  const std::uint64_t seed = std::random_device{}();
-  SCOPED_TRACE("seed " + std::to_string(seed));
-  std::mt19937_64 random(seed);
+TEST_F(DecimalNumbers, EveryMantissaComesBackFromItsText) {
   for (int round = 0; round < 20000; ++round) {
-    const auto word = [&] { return static_cast<std::uint32_t>(random()); };
-    const Decimal value =
-        Decimal::fromMantissa(random() % 2 == 0, {word(), word(), random() % 4 == 0 ? 0U : word()},
-                              static_cast<int>(random() % 29));
+    const Decimal value = decimal();
     ASSERT_EQ(CDec(value.toText()), value) << value.toText();
     ASSERT_EQ(value.toText().find('e'), std::string::npos);
   }
 }
 
-TEST(DecimalNumbers, ThatDoNotFitOverflow) {
+// With a common scale, sums of 96 bits still fit 128.
+TEST_F(DecimalNumbers, OfFullLengthAddUpAndLoseADecimalWhenThereIsNoRoom) {
+  const Int128 most = (Int128{1} << 96) - 1;
+  int rounded = 0;
+  for (int round = 0; round < 20000; ++round) {
+    const Int128 a = mantissa();
+    const Int128 b = mantissa();
+    const int scale = static_cast<int>(below(29));
+    Int128 sum = a + b;
+    const bool fits = sum <= most && sum >= -most;
+    if (!fits) sum = shiftedHalfEven(sum, 1);
+    const std::string expected =
+        !fits && scale == 0 ? "error 6" : decimalOf(sum, fits ? scale : scale - 1).toText();
+    ASSERT_EQ(outcome([&] { return decimalOf(a, scale) + decimalOf(b, scale); }), expected)
+        << digitsOf(a) << ' ' << digitsOf(b) << " scale " << scale;
+    ASSERT_EQ(outcome([&] { return decimalOf(a, scale) - decimalOf(-b, scale); }), expected)
+        << digitsOf(a) << ' ' << digitsOf(b) << " scale " << scale;
+    rounded += fits ? 0 : 1;
+  }
+  EXPECT_GT(rounded, 10);
+}
+
+// Nine decimals apart, 96 bits still fit 128.
+TEST_F(DecimalNumbers, OfFullLengthCompareLikeWholeNumbers) {
+  for (int round = 0; round < 20000; ++round) {
+    const Int128 a = mantissa();
+    const int apart = static_cast<int>(below(10));
+    // Often the same number with other decimals, or one beside it.
+    const Int128 b = toss() ? mantissa() : shiftedHalfEven(a, apart) + static_cast<int>(below(3)) - 1;
+    const int scale = static_cast<int>(below(20));
+    const Decimal left = decimalOf(a, scale + apart);
+    const Decimal right = decimalOf(b, scale);
+    const Int128 aligned = b * powerOfTen(apart);
+    ASSERT_EQ(left <=> right, a <=> aligned) << left.toText() << ' ' << right.toText();
+    ASSERT_EQ(right == left, a == aligned) << left.toText() << ' ' << right.toText();
+  }
+}
+
+TEST_F(DecimalNumbers, ThatDoNotFitOverflow) {
   const Decimal most = CDec("79228162514264337593543950335");
   EXPECT_EQ(outcome([&] { return most + Decimal(1); }), "error 6");
   EXPECT_EQ(outcome([&] { return -most - Decimal(1); }), "error 6");
@@ -136,7 +162,7 @@ TEST(DecimalNumbers, ThatDoNotFitOverflow) {
   EXPECT_EQ(outcome([&] { return Decimal::fromMantissa(false, {1, 0, 0}, 29); }), "error 5");
 }
 
-TEST(DecimalNumbers, CompareByValue) {
+TEST_F(DecimalNumbers, CompareByValue) {
   EXPECT_EQ(CDec("1.0"), CDec("1.00"));
   EXPECT_EQ(CDec("-0.0"), CDec("0"));
   EXPECT_LT(CDec("-1"), CDec("0.5"));
