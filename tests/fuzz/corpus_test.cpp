@@ -7,7 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "fuzz/date_text_promises.h"
 #include "fuzz/description_promises.h"
+#include "fuzz/format_promises.h"
+#include "fuzz/like_promises.h"
+#include "fuzz/number_text_promises.h"
 #include "fuzz/property_bag_promises.h"
 
 namespace qrn::fuzz {
@@ -50,6 +54,14 @@ TEST_P(Corpus, KeepsAllPromises) {
 INSTANTIATE_TEST_SUITE_P(Descriptions, Corpus,
                          testing::ValuesIn(inputsOf("description", &brokenDescriptionPromise)), nameOf);
 INSTANTIATE_TEST_SUITE_P(PropertyBags, Corpus, testing::ValuesIn(inputsOf("property_bag", &brokenBagPromise)),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Formats, Corpus, testing::ValuesIn(inputsOf("format", &brokenFormatPromise)),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(LikePatterns, Corpus, testing::ValuesIn(inputsOf("like", &brokenLikePromise)),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(NumberTexts, Corpus,
+                         testing::ValuesIn(inputsOf("number_text", &brokenNumberTextPromise)), nameOf);
+INSTANTIATE_TEST_SUITE_P(DateTexts, Corpus, testing::ValuesIn(inputsOf("date_text", &brokenDateTextPromise)),
                          nameOf);
 
 }  // namespace
