@@ -126,6 +126,14 @@ Decimal decimalFrom(Currency value) {
   return Decimal::fromMantissa(whole.isNegative(), whole.mantissa(), kCurrencyDecimals);
 }
 
+// Where digits are grouped by the mark that stands between days and months, a day that does not exist would
+// read as a number, and make a date thousands of years off.
+bool isRatherADate(const std::string& text) {
+  const Locale& locale = currentLocale();
+  return locale.groupSeparator == locale.dateSeparator &&
+         text.find(locale.dateSeparator) != std::string::npos;
+}
+
 Date checkedDate(double serial) {
   const Date date{serial};
   if (!isInCalendar(date)) raiseRunTimeError(kOverflow);
@@ -201,6 +209,7 @@ Date CDate(const Variant& value) {
   if (const Date* date = value.get<Date>()) return *date;
   if (const std::string* text = value.get<std::string>()) {
     if (const std::optional<Date> date = readDateText(*text, currentLocale(), currentYear())) return *date;
+    if (isRatherADate(*text)) raiseMismatch();
   }
   return checkedDate(CDbl(value));
 }
