@@ -129,9 +129,8 @@ Decimal decimalFrom(Currency value) {
 // Where digits are grouped by the mark that stands between days and months, a day that does not exist would
 // read as a number, and make a date thousands of years off.
 bool isRatherADate(const std::string& text) {
-  const Locale& locale = currentLocale();
-  return locale.groupSeparator == locale.dateSeparator &&
-         text.find(locale.dateSeparator) != std::string::npos;
+  const std::string& mark = currentLocale().dateSeparator;
+  return !mark.empty() && mark == currentLocale().groupSeparator && text.find(mark) != std::string::npos;
 }
 
 Date checkedDate(double serial) {

@@ -116,6 +116,9 @@ TEST(Locales, AreSetForOneThread) {
   const LocaleScope scope(other);
   EXPECT_EQ(CStr(1.5), "1·5");
   EXPECT_EQ(CDbl("1 234·5"), 1234.5);
+  other.groupSeparator = other.dateSeparator = "";
+  const LocaleScope withoutMarks(other);
+  EXPECT_EQ(CDate("36526").serial, 36526);
 }
 
 }  // namespace
