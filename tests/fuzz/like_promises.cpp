@@ -49,9 +49,9 @@ std::string brokenBy(const std::string& text, const std::string& pattern) {
 
 // Some steps to read each character of the pattern, and some for each of the text with each of the pattern.
 std::string brokenCostBy(std::string_view text, std::string_view pattern) {
-  constexpr std::uint64_t kSteps = 50;
+  constexpr std::uint64_t kSteps = 100;
   const std::uint64_t steps = test::stepsOf([&] { matches(text, pattern); });
-  if (steps <= kSteps * (text.size() + 2) * (pattern.size() + 2)) return {};
+  if (steps <= kSteps * (text.size() + 4) * (pattern.size() + 4)) return {};
   return std::to_string(text.size()) + " times " + std::to_string(pattern.size()) + " characters take " +
          std::to_string(steps) + " steps";
 }
