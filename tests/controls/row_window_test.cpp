@@ -203,6 +203,11 @@ TEST_F(RowWindows, TracesThatTheApplicationCameBackToARowBeingEdited) {
   EXPECT_EQ(lines, Events{});
   user->comesBack();
   EXPECT_EQ(lines, (Events{"AppGotFocus"}));
+  // Of a row that can't be edited nothing begins, and nothing is traced.
+  row().SetLocked(true);
+  user->switchesAway();
+  user->comesBack();
+  EXPECT_EQ(lines, (Events{"AppGotFocus"}));
 }
 
 }  // namespace
