@@ -38,8 +38,9 @@ std::intptr_t clsQRNEDitSubClass::EditHookProc(host::WindowHandle hwnd, std::uin
   std::intptr_t answer = 0;
   // Nothing may cross the call of a window.
   try {
-    auto* const object = reinterpret_cast<clsQRNEDitSubClass*>(
-        host::Platform::currentWindows()->getLong(hwnd, host::kGwlUserData));
+    // A window keeps numbers only.
+    const std::intptr_t kept = host::Platform::currentWindows()->getLong(hwnd, host::kGwlUserData);
+    auto* const object = reinterpret_cast<clsQRNEDitSubClass*>(kept);  // NOLINT(performance-no-int-to-ptr)
     if (object) answer = object->WindowHookFunction(hwnd, msg, wParam, lParam);
   } catch (...) {
   }

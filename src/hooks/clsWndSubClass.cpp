@@ -75,8 +75,9 @@ std::intptr_t clsWndSubClass::WindowProc(host::WindowHandle hwnd, std::uint32_t 
 
 std::intptr_t clsWndSubClass::windowProcedure(host::WindowHandle hwnd, std::uint32_t msg,
                                               std::intptr_t wParam, std::intptr_t lParam) {
-  auto* const object =
-      reinterpret_cast<clsWndSubClass*>(host::Platform::currentWindows()->property(hwnd, kObjectPointer));
+  // A window keeps numbers only.
+  const std::intptr_t kept = host::Platform::currentWindows()->property(hwnd, kObjectPointer);
+  auto* const object = reinterpret_cast<clsWndSubClass*>(kept);  // NOLINT(performance-no-int-to-ptr)
   return object ? object->WindowProc(hwnd, msg, wParam, lParam) : 0;
 }
 

@@ -165,6 +165,7 @@ std::vector<Step> stepsFrom(const UserControl& control, const PropertyBag& bag) 
 
 std::vector<Step> currentValues(UserControl& control, const std::vector<Step>& steps) {
   std::vector<Step> result;
+  result.reserve(steps.size());
   for (const Step& step : steps) result.push_back({step.property, step.property->read(control)});
   return result;
 }
