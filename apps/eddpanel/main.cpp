@@ -10,6 +10,7 @@
 #include "platform/headless/headless_platform.h"
 #include "replay.h"
 #include "runtime/errors.h"
+#include "runtime/locale.h"
 #include "shown_on_screen.h"
 
 namespace {
@@ -48,6 +49,8 @@ int run(const Options& options, int argc, char** argv) {
   }
   if (description.menus().empty()) throw edd::DescriptionError({options.file, 1}, "there is no MENU to show");
   registerControls();
+  // Numbers and dates are written, and read, as in the country of the language.
+  if (options.language.starts_with("de")) setCurrentLocale(deDE());
   if (options.list || !options.replay.empty()) return runHeadless(description, options);
   return eddpanel::runOnScreen(description, options.screen, argc, argv);
 }
@@ -58,7 +61,7 @@ int main(int argc, char** argv) {
   Options options;
   CLI::App app("Shows the panels of a device description (EDD text, IEC 61804-3).");
   app.add_option("FILE", options.file, "the device description")->required();
-  app.add_option("--language", options.language, "language of labels and help texts, such as en or de");
+  app.add_option("--language", options.language, "language of labels and help texts, en or de; numbers and dates follow it");
   app.add_flag("--list", options.list, "print the panels as text");
   app.add_option("--replay", options.replay,
                  "play a script of user actions without a display and print the events");
