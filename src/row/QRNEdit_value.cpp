@@ -239,7 +239,7 @@ QRNEdit::ReadResult QRNEdit::readTyped() const {
       return checkedNumber(convertedOrVal(typed, [](auto t) { return Variant(HexToLong(t)); }));
     case qrnTypeDouble:
       if (isIeeeText(typed)) return {storedValue_};
-      return checkedNumber(Variant(CDbl(Variant(typed))));
+      return checkedNumber(Variant(doubleFromText(typed)));
     case qrnTypeDate: {
       const Date date = CDate(Variant(typed));
       ReadResult result = checkedNumber(Variant(date.serial));
