@@ -1,6 +1,6 @@
 // Made by tools/make_pictures from assets/pictures; change those and run it again.
-// sources 9d555b583ebfdd0b473f52a2798e5dca2861d31f4e9faccc1fd20577cdcf74b3
-// table 6ca7a0507b2837bad8417230af42e6f817ecd3d60426095a5b0736074d3822fc
+// sources 49997ae2ab8ee5c6f2bf4114c9e8438558a071ba643abc20ac321e9eec156c4c
+// table 43f5e4c00358c4ff3aa037f4de178a2a1eaf0f18039d79d5c3f1724ea4279075
 #pragma once
 
 #include <array>
@@ -1088,112 +1088,112 @@ inline constexpr std::string_view kDynamic23x =
 
 // Broken line: live, but not connected.
 inline constexpr std::uint32_t kDynamicOfflineColors[] = {
-    0x00000000, 0xFFE3E8ED, 0xFF5B6B7B, 0xFF22303C, 0xFFE1E6EB, 0xFFE0E5EA, 0xFF646E78, 0xFF6C7780,
-    0xFC5B6B7B, 0x02808080, 0xFF9099A1, 0xFF626C76, 0xFF77818A, 0xFFE0E6EB, 0x225A6978, 0xFD5B6B7B,
-    0xFF606F7F, 0x815B6B7B, 0xBD5A6B7B, 0xFFC4CCD3, 0x4E5C6C7C, 0xFFA8B2BC, 0xE55B6B7A, 0xFFD1D7DD,
-    0xC8657382, 0x3D5C6D79, 0xCE5C6A7B, 0xFCA1ABB5, 0xB25C6B7B, 0x5A5B6C7A, 0xF15B6B7B, 0xFFD9E0E5,
-    0xFFA7AEB6, 0xFF717B85, 0xFF7C868F, 0x7A5C6B7B, 0xFF67727C, 0xFFA3AEB7, 0xEA5C6B7B, 0xFF9FA9B4,
-    0x1E5E6F77, 0xCC5B6C7B, 0xC05C6C7C, 0xFB5C6D7D, 0x7C5A6B7B, 0x405C6C7C, 0xFFDBE0E6, 0xFF5E6E7E,
-    0xFFA1AAB5, 0xFFA5AFB8, 0xCA647382, 0xC7637383, 0xF45B6B7B, 0xFDA2ACB6, 0xFC5D6C7C, 0xC6647482,
-    0xCD5B6B7B, 0xE65B6C7B, 0xB35B6B7B, 0xC9647383, 0xE95B6B7B, 0xC8637382, 0xBF5B6B7B, 0x585A6B7A,
-    0xB15B6B7A, 0x3E5A6B7B, 0x1F5A6B7B, 0x595C6A7B, 0x215D6C7C, 0xFFE0E6EA, 0xFFE2E7EC, 0xFF6B767F,
-    0xFF66717B, 0xFFA8AFB7, 0xFFE0E4E9, 0xFFD0D6DD, 0xFF60707F, 0xFFA0AAB5, 0xFFD0D7DD, 0xFFDFE5E9,
-    0xFF5E6D7D, 0xFF9FAAB4, 0xFFA4AFB8, 0xFFC4CBD3, 0xFFDAE0E5, 0xFC5C6B7C, 0xFCA2ABB6, 0x20586878,
-    0xC7647383, 0xF25B6B7B,
+    0x00000000, 0xFFE3E8ED, 0xFF5B6B7B, 0xFF22303C, 0xFF25323E, 0xFF273541, 0xFFA0A8AF, 0xFFACB4BA,
+    0xFFA8B0B7, 0xFFADB4BC, 0xFF263441, 0xFF283541, 0xFF919AA2, 0xFF25333F, 0xFF9DA5AD, 0xFF24323E,
+    0xFC5B6B7B, 0x7C5A6B7B, 0xC8657382, 0x3E5A6B7B, 0xFFC4CCD3, 0x1F5A6B7B, 0x5A5B6C7A, 0xB15B6B7A,
+    0xE55B6B7A, 0xFFD6DCE1, 0xCD5B6B7B, 0xBF5B6B7B, 0x4E5C6C7C, 0xFCA2ABB6, 0xF15B6B7B, 0xFF2D3B46,
+    0xFFC0C7CD, 0xFFD0D6DD, 0xFF606F7F, 0xFF969EA6, 0xFFDBE0E6, 0xFFA3AEB7, 0xFF9FA9B4, 0xFFA8B2BC,
+    0xFFDFE5E9, 0xEA5C6B7B, 0xFFA2ABB2, 0x815B6B7B, 0xFB5C6D7D, 0x7A5C6B7B, 0x225A6978, 0xFFE1E6EB,
+    0xFF5E6E7E, 0xFFD9E0E5, 0xFFA1AAB5, 0xFFA5AFB8, 0xCA647382, 0xC7637383, 0xF45B6B7B, 0xFDA2ACB6,
+    0xB35B6B7B, 0xFC5D6C7C, 0xBD5A6B7B, 0xCE5C6A7B, 0xC6647482, 0xE65B6C7B, 0xCC5B6C7B, 0xC9647383,
+    0xE95B6B7B, 0xC8637382, 0xC05C6C7C, 0x405C6C7C, 0x585A6B7A, 0xB25C6B7B, 0x3D5C6D79, 0x1E5E6F77,
+    0x595C6A7B, 0x215D6C7C, 0x02808080, 0xFFE0E6EA, 0xFFA1AAB1, 0xFF23313D, 0xFFC1C7CE, 0xFFD1D7DD,
+    0xFF2C3A46, 0xFF60707F, 0xFF9099A1, 0xFFA0AAB5, 0xFFD0D7DD, 0xFF5E6D7D, 0xFF9FAAB4, 0xFFA4AFB8,
+    0xFFC4CBD3, 0xFFDAE0E5,
 };
 inline constexpr std::string_view kDynamicOffline1x =
     "................"
-    "|5`aaaaaaaaaa`w%"
-    "WZ)##########){7"
-    "0)############>0"
-    "a##############a"
-    "a#####-##-#####a"
-    "a####EbkkbE####a"
-    "a#aaa#kbbk#aaa#a"
-    "a#aaa#Gbbk*aaa#a"
-    "a####EbkkbE####a"
-    "a#####-##-#####a"
-    "a##############a"
-    "0)############>P"
-    "w{)##########)zX"
-    "%}0aaaaaaaaaa01M";
+    "t9oaaaaaaaaaaoqt"
+    "Y1:##########:B$"
+    "3:############M3"
+    "a####=####=####a"
+    "a###Enk##knE###a"
+    "a####Hn]Hnk####a"
+    "a#aa##k<<k##aa#a"
+    "a#aa##k<<k##aa#a"
+    "a####HnkHn]####a"
+    "a###Enk##knE###a"
+    "a####=####=####a"
+    "3:############MQ"
+    "qB:##########:BZ"
+    "tZ3aaaaaaaaaa36+";
 inline constexpr std::string_view kDynamicOffline2x =
     "................................"
     "................................"
-    "..R8YaaaaaaaaaaaaaaaaaaaaaaY8s.."
-    ".Qnaaaaaaaaaaaaaaaaaaaaaaaaaaap."
-    "RnTVS######################StTn$"
-    "OaV##########################Ja8"
-    "YaS##########################Da~"
+    "..&z0aaaaaaaaaaaaaaaaaaaaaa0zA.."
+    ".poaaaaaaaaaaaaaaaaaaaaaaaaaaaP."
+    "&oUXI######################ILUor"
+    "%aX##########################Jaz"
+    "0aI##########################VaC"
     "aa############################aa"
     "aa############################aa"
+    "aa########ee########ee########aa"
+    "aa#######ecce######ecce#######aa"
+    "aa#######ecbce####ecbce#######aa"
+    "aa########Olbcm##;lbcm########aa"
+    "aa#########Olbcm;lbcm#########aa"
+    "aa##aaaa####ecbccbce####aaaa##aa"
+    "aa##aaaa#####ecbbce#####aaaa##aa"
+    "aa##aaaa#####;lbbcm#####aaaa##aa"
+    "aa##aaaa####ecbccbce####aaaa##aa"
+    "aa#########;lbcmOlbcm#########aa"
+    "aa########;lbcm##Olbcm########aa"
+    "aa#######ecbce####ecbce#######aa"
+    "aa#######ecce######ecce#######aa"
+    "aa########ee########ee########aa"
     "aa############################aa"
-    "aa##########cc####cc##########aa"
-    "aa#########cffc##cffc#########aa"
-    "aa########*Fbb+c*Fbb+c########aa"
-    "aa########cfbbbffbbbfc########aa"
-    "aa##aaaaaa#cfbbbbbbfc#aaaaaa##aa"
-    "aa##aaaaaa##cfbbbbfc##aaaaaa##aa"
-    "aa##aaaaaa##*Fbbbb+c##aaaaaa##aa"
-    "aa##aaaaaa#cfbbbbbbfc#aaaaaa##aa"
-    "aa########cfbbbffbbbfc########aa"
-    "aa########*Fbb+c*Fbb+c########aa"
-    "aa#########cffc##cffc#########aa"
-    "aa##########cc####cc##########aa"
     "aa############################aa"
-    "aa############################aa"
-    "aa############################aa"
-    "~aS##########################DaC"
-    "8at##########################Jaq"
-    "saT]_######################DJ@nx"
-    ".pnaaaaaaaaaaaaaaaaaaaaaaaaaanH."
-    "..$qYaaaaaaaaaaaaaaaaaaaaaa~qx..";
+    "CaI##########################VaC"
+    "zaL##########################Ja4"
+    "AaU|~######################VJ`o*"
+    ".PoaaaaaaaaaaaaaaaaaaaaaaaaaaoR."
+    "..r40aaaaaaaaaaaaaaaaaaaaaaC4*..";
 inline constexpr std::string_view kDynamicOffline3x =
     "................................................"
     "................................................"
     "................................................"
-    "...hB43gaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaag34&h..."
-    "..myaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa2m.."
-    ".m6aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaKm."
-    "hyaa;Uvc################################c=<oaa2h"
-    "Baa;r######################################roaa9"
-    "4aaU########################################Laa!"
-    "3aav########################################:aau"
-    "gaac########################################caag"
+    ".../u27oaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaao72,/..."
+    "..S5aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaayS.."
+    ".S!aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaNS."
+    "/5aa[W>T################################T_^Gaay/"
+    "uaa[s######################################sGaa("
+    "2aaW########################################Kaav"
+    "7aa>########################################Faaw"
+    "oaaT########################################Taao"
     "aaa##########################################aaa"
     "aaa##########################################aaa"
+    "aaa#############x##############x#############aaa"
+    "aaa############h@g############h@g############aaa"
+    "aaa###########fdbdf##########fdbdf###########aaa"
+    "aaa##########xDbbbdf########fdbbbDx##########aaa"
+    "aaa###########fdbbbdf######fdbbbdf###########aaa"
+    "aaa############hjbbbig####hjbbbig############aaa"
+    "aaa#############hjbbbig##hjbbbig#############aaa"
+    "aaa##############hjbbbighjbbbig##############aaa"
+    "aaa###aaaaaa######fdbbbddbbbdf######aaaaaa###aaa"
+    "aaa###aaaaaa#######hjbbbbbbig#######aaaaaa###aaa"
+    "aaa###aaaaaa########fdbbbbdf########aaaaaa###aaa"
+    "aaa###aaaaaa########hjbbbbig########aaaaaa###aaa"
+    "aaa###aaaaaa#######hjbbbbbbig#######aaaaaa###aaa"
+    "aaa###aaaaaa######fdbbbddbbbdf######aaaaaa###aaa"
+    "aaa##############hjbbbighjbbbig##############aaa"
+    "aaa#############hjbbbig##hjbbbig#############aaa"
+    "aaa############hjbbbig####hjbbbig############aaa"
+    "aaa###########fdbbbdf######fdbbbdf###########aaa"
+    "aaa##########xDbbbdf########fdbbbDx##########aaa"
+    "aaa###########fdbdf##########fdbdf###########aaa"
+    "aaa############hDg############hDg############aaa"
+    "aaa#############x##############x#############aaa"
     "aaa##########################################aaa"
     "aaa##########################################aaa"
-    "aaa##########################################aaa"
-    "aaa###############did######did###############aaa"
-    "aaa##############debed####debed##############aaa"
-    "aaa#############l,bbbj/##l,bbbj/#############aaa"
-    "aaa#############ibbbbbeddebbbbbi#############aaa"
-    "aaa#############debbbbbeebbbbbed#############aaa"
-    "aaa###aaaaaaaaa##debbbbbbbbbbed##aaaaaaaaa###aaa"
-    "aaa###aaaaaaaaa###lIbbbbbbbbjd###aaaaaaaaa###aaa"
-    "aaa###aaaaaaaaa####debbbbbbed####aaaaaaaaa###aaa"
-    "aaa###aaaaaaaaa####l,bbbbbbj/####aaaaaaaaa###aaa"
-    "aaa###aaaaaaaaa###l,bbbbbbbbj/###aaaaaaaaa###aaa"
-    "aaa###aaaaaaaaa##debbbbbbbbbbed##aaaaaaaaa###aaa"
-    "aaa#############debbbbbeebbbbbed#############aaa"
-    "aaa#############ibbbbbeddebbbbbi#############aaa"
-    "aaa#############lIbbbjd##lIbbbjd#############aaa"
-    "aaa##############debed####debed##############aaa"
-    "aaa###############did######did###############aaa"
-    "aaa##########################################aaa"
-    "aaa##########################################aaa"
-    "aaa##########################################aaa"
-    "aaa##########################################aaa"
-    "aaa##########################################aaa"
-    "gaac########################################caag"
-    "3aav########################################:aau"
-    "Aaa<########################################[aa!"
-    "&aao^######################################roaa9"
-    "h2aaoL=c################################c:LoaaNh"
-    ".mKaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa6(."
-    "..m2aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaN(.."
-    "...h&!ugaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaagu!9h...";
+    "oaaT########################################Taao"
+    "7aa>########################################Faaw"
+    ")aa^########################################{aav"
+    ",aaG}######################################sGaa("
+    "/yaaGK_T################################TFKGaa8/"
+    ".SNaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!-."
+    "..Syaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa8-.."
+    ".../,vwoaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaowv(/...";
 
 // Star of a required field.
 inline constexpr std::uint32_t kNeededColors[] = {
@@ -1415,184 +1415,184 @@ inline constexpr std::string_view kError3x =
 
 // Triangle with a question mark: out of specification.
 inline constexpr std::uint32_t kRangeErrorColors[] = {
-    0x00000000, 0xFFFFC91F, 0xFF6E4A00, 0xFF3A2600, 0xFFFEC81F, 0xFE6E4A00, 0x02808000, 0xFF614606,
-    0xF16E4A00, 0xFF755809, 0xFFFDC71F, 0x01000000, 0xFF3D2800, 0xFC6E4A00, 0x4E6F4B00, 0xFF734E01,
-    0x0D764E00, 0x9D6E4B00, 0xFCBC8F10, 0xC9775103, 0x756D4A00, 0xF2946A08, 0xFFDBA917, 0x2F6D4C00,
-    0xFFA47D10, 0xDC6E4A00, 0x896E4A00, 0x626D4900, 0xB06E4A00, 0xF4825B04, 0xFFECB81B, 0xFF4E3603,
-    0x1E6F4D00, 0xFFCA9A14, 0xFF89670C, 0x40704C00, 0xFF997009, 0xBC6E4B00, 0xFFB08711, 0xF49F760A,
-    0xFF805A04, 0xCF6E4A00, 0xE76E4A00, 0xF5765002, 0xD9775102, 0xFF583F05, 0xC66D4900, 0x946E4A00,
-    0xE4755101, 0xF38C6506, 0x16684600, 0x266B4A00, 0x7D6E4900, 0xA56E4A00, 0xFFE3B019, 0xFF452F02,
-    0xFF6B4E08, 0xFF916908, 0xFFC29312, 0xFFD0A218, 0xFFF4C01D, 0xFA876108, 0xBB775201, 0x5B6D4900,
-    0x366D4C00, 0x696D4900, 0x476F4B00, 0xFF7D5E0B, 0xFF886005, 0xFFAC800D, 0xF47B5603, 0xFFB78A10,
-    0x97764F02, 0xEE744F01, 0x556F4B00, 0xFF795402, 0x6F6E4A00, 0xD56E4A00, 0xB66F4A00, 0xFF916E0E,
-    0xFF664B07, 0x3B6C4900, 0xF76E4A00, 0xFFAA8212, 0x08604000, 0xEC6E4900, 0x8E6E4A00, 0xAA6E4A00,
-    0x826E4B00, 0xFF82610A,
+    0x00000000, 0xFFFFCF2E, 0xFF8A5D00, 0xFF3A2600, 0xFD8A5D00, 0xFE8A5D00, 0x03AA5500, 0xFFFECE2E,
+    0xFF614709, 0xFF755A0E, 0xFF8A5E00, 0x02808000, 0x0D896200, 0xEF8A5D00, 0xFFFECE2D, 0x06805500,
+    0x328A5C00, 0x91895D00, 0xFFC29B20, 0xC08A5D00, 0x608A6000, 0xF5AE7F0E, 0xFFE0B122, 0xFF987716,
+    0x79895D00, 0xD88A5D00, 0x488A5C00, 0xA68A5E00, 0xFF4E3705, 0x1F8C5A00, 0xFF866712, 0xFFB08B1C,
+    0xFF9B6D06, 0xFFD1A21C, 0xFFECC02A, 0xF2A27509, 0xCA946604, 0xB38A5D00, 0xFABB8D13, 0x858A5E00,
+    0xFFA48119, 0xFFA6790B, 0x6E8B5F02, 0x558A5D00, 0x3D8A5C00, 0xE38A5D00, 0xFFB28410, 0xFFC29416,
+    0xFF442F02, 0x9A906303, 0x288C6000, 0xFF6A4F0B, 0xFFB9931E, 0xFF573E07, 0xCF8A5C00, 0x168B5D00,
+    0xFFF5C52A, 0xFFD8AE25, 0xFF926503, 0xFF8E6E14, 0xE98F6102, 0xF6B48611, 0xF68A5D00, 0xFFE8B925,
+    0xC88A5D00, 0xFFCFA623, 0x9F8A5D00, 0xD0916202, 0x7F8F6002, 0xF38F6102, 0x678B5E00, 0xAD8B5D00,
+    0xFFD8A91F, 0xFF7B5D0F, 0x4E895C00, 0xB98A5C00, 0x8B8A5E00, 0xFFAA861A, 0xFFAC7E0D, 0xFFC89A18,
+    0xFFC8A021, 0xFFE2B727, 0xFFB88A12, 0xF4A97B0D, 0x978A5D00, 0xE88A5D00, 0x5A8B5E00, 0xFF6F530C,
+    0x38895B00, 0x748A5C00,
 };
 inline constexpr std::string_view kRangeError1x =
-    ".......WW......."
-    ".......rr......."
-    "......mBBm......"
-    "....._UuuU_....."
-    ".....;t##t;....."
-    "....oPG11GPW...."
-    "....,7bDDb7,...."
-    "...XPuKu>bwPX..."
-    "...8q##2b1Cq8..."
-    "..H*i##D1C#i*%.."
-    ".eQ5########5Qe."
-    ".zVc###bb####Vz."
-    "o-0####bb####0-o"
-    "}L############Ly"
-    "OaaaaaaaaaaaaaaO";
+    "......1VV1......"
+    ".....e&KK&e....."
+    ".....sH##Hs....."
+    "....n6u##u6n...."
+    "....*H####^*...."
+    "...n69MZZM96n..."
+    "...O^qbUUbq^O..."
+    "..n693D[5b<9)k.."
+    "..wt###|bAG#t~.."
+    ".k)9###AUG##G)k."
+    ".(t##########7(."
+    "k)G####bb####G)k"
+    "(7#####bb#####7("
+    "I,############,I"
+    "s)aaaaaaaaaaaa){";
 inline constexpr std::string_view kRangeError2x =
-    "................................"
-    "...............zz..............."
-    "..............!dd!.............."
-    "..............SaaSj............."
-    "............./a::a/............."
-    "............_xaF4ax_............"
-    "............sa(ic(as............"
-    "...........Wgau##uagW..........."
-    "...........TaI####IaT..........."
-    "..........Xla0####Cnlv.........."
-    "..........=a)+@11fK)aJ.........."
-    ".........%a:hbbbbbb2:a%........."
-    "........e<aGbbbbbbbb~a<e........"
-    "........$aM2bbk&&kbb@Ma$........"
-    ".......oOa5&@R~##hbb15a`o......."
-    ".......ya3c####i^kbb@#3ay......."
-    "......E]a0####Ffbbbb^#0a]X......"
-    "......|aw#####fbbbbhi##wa|......"
-    ".....[dnC#####fbbk>i###Cna[....."
-    "....jSa+######fbbf######+aNe...."
-    "....9aMi################iMa9...."
-    "..._xaF##################FaO_..."
-    "...Ya(c#######bbbb#######c(aY..."
-    "..Wgau########bbbb########uagW.."
-    "..paI#########bbbb#########Iap.."
-    ".vlnC#########bbbb#########Cnd!."
-    ".Ja)########################)aJ."
-    "ma:6########################6:am"
-    "<aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa<"
-    "SaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaS";
+    "..............B**B.............."
+    ".............{8aa8{............."
+    "............ycaSSacy............"
+    "...........k`aT##Ta`k..........."
+    "...........waN###fNaw..........."
+    "..........klau####ualk.........."
+    "..........LaN######NaL.........."
+    ".........1lau######[a81........."
+    ".........;a=########=a;........."
+    "........18i9########9i81........"
+    "........paS##$C|XC@##Sap........"
+    ".......18a9#Cbbbbbb-f9a8B......."
+    "......._aS#Dbbbbbbbb<#Sa_......."
+    "......B8aG#XbbbZZbbbg#GacB......"
+    "......%a]##Xggv##hbbU##Sa%......"
+    ".....WcaG######fvbbbg##GacW....."
+    ".....za]######$gbbbbD###]az....."
+    "....WcaG######gbbbbC####2aco...."
+    "....+a]#######gbbbvf#####]a+...."
+    "...oda2#######gbbg#######24do..."
+    "...JaT####################TaJ..."
+    "..od42####################24a}.."
+    "..:aT#########bbbb#########Ta:.."
+    ".Qa42#########bbbb#########24aQ."
+    ".ra>##########bbbb##########Tar."
+    "oa42##########bbbb##########24ao"
+    "~a]##########################]a~"
+    ";aT2########################2]a;"
+    "QdaaaaaaaaaaaaaaaaaaaaaaaaaaaadQ"
+    ".PrlaaaaaaaaaaaaaaaaaaaaaaaalrP.";
 inline constexpr std::string_view kRangeError3x =
-    "................................................"
-    "................................................"
-    "......................ESSE......................"
-    "......................|aa|......................"
-    ".....................[daad[....................."
-    "....................jSaaaaNe...................."
-    "....................9aannaa9...................."
-    "..................._xaa+KaaO_..................."
-    "...................Yaa:66:aaY..................."
-    "..................WgaaF##FaagW.................."
-    "..................paa(c##c(aap.................."
-    ".................vlaau####uaad!................."
-    ".................JaaI######IaaJ................."
-    "................maaa0######Cnaam................"
-    "..............._xaa)########)aax_..............."
-    "...............;aa:6F&Dk1f&46:aa;..............."
-    "..............o`aa+2bbbbbbbb@)aa`W.............."
-    "..............{aaMfbbbbbbbbbbRMaa{.............."
-    ".............X]aa~bbbbbbbbbbbbhaalX............."
-    ".............Aaa31bbbbbbbbbbbbk3aaA............."
-    "............Haaa+bbbbb2^whbbbbbKaaa%............"
-    "...........eNaaw^bbbbk6##ikbbbbwwaaNe..........."
-    "...........zaanCiC05F4###Fkbbbb^6naaz..........."
-    "..........oOaa+########i^kbbbbb5#+aaOo.........."
-    "..........}aaMi#######4Rbbbbbbfi#iMaa}.........."
-    ".........EgaaF#######Gbbbbbbbku###Faa]E........."
-    ".........Zaa(c#######hbbbbbbkK####c(aaZ........."
-    "........vdaau########hbbbbb14######uaad!........"
-    "........SaaI#########hbbbbRC########IaaSj......."
-    "......./aanC#########hbbbbh#########Cnaa/......."
-    "......_xaaK##########################)aax_......"
-    "......saa:6##########################6:aas......"
-    ".....Wgaa4############################4aagW....."
-    ".....Taa(i###########bbbbbb###########i(aaT....."
-    "....Xlaa5############bbbbbb############5aalv...."
-    "....=aa3#############bbbbbb#############Iaa=...."
-    "...Haaa0#############bbbbbb#############0aaa%..."
-    "..eNaaw##############bbbbbb##############waa<e.."
-    "..$aan6##############bbbbbb##############6naa$.."
-    ".oOaa+####################################+aaOo."
-    ".yaaMi####################################iMaay."
-    "E]aaF######################################Faa]X"
-    "ZaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaZ"
-    "gaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaag"
-    "ylaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaly";
+    "......................eWWe......................"
+    "....................n~laal~n...................."
+    "...................k:aaaaaark..................."
+    "..................jJaaaEEaaaJj.................."
+    "..................waai>ff>iaaw.................."
+    ".................B8aaT####Taa8B................."
+    "................._aaNm####mNaa_................."
+    "................B8aau######uaacB................"
+    "................%aaN########Naa%................"
+    "...............Wcaau########uaacW..............."
+    "...............zaa=##########=aaz..............."
+    "..............Wcaa9##########9iaco.............."
+    "..............+aa=############=aa+.............."
+    ".............odai9############9aado............."
+    ".............JaaS##############SaaJ............."
+    "............odaaG###GDvCCvD9###GaaaQ............"
+    "............:aaS##25bbbbbbbbCG##Saa:............"
+    "...........QaaaG#2Xbbbbbbbbbbg2#GaaaQ..........."
+    "...........raa]##5bbbbbbbbbbbbC##]aar..........."
+    "..........yaaaG#2UbbbbbbbbbbbbbG#2aaay.........."
+    "..........!aa]##qbbbbbAXXAbbbbbY##]aa!.........."
+    "........./aaa2##MbbbbU2##fUbbbbM##24aa/........."
+    ".........0aaT###G33333###DbbbbbY###Taa0j........"
+    "........Paa42##########2vbbbbbb9###24aaP........"
+    ".......j0aaT##########qZbbbbbbX#####Taaxe......."
+    ".......{aa42#########5bbbbbbbU9#####24aa{......."
+    "......exaaT##########hbbbbbbU@#######Taaxe......"
+    "......saa42##########hbbbbbA3########24aas......"
+    ".....nRaa>###########hbbbbg2##########>aaRn....."
+    ".....Oaa42###########hbbbbh###########f4aa*....."
+    "....nRaa>##############################>aa`n...."
+    "....~aa4f##############################fEaa~...."
+    "...k`aaF################################Faa`k..."
+    "...waaEf#############bbbbbb#############fEaaw..."
+    "..klaaF##############bbbbbb##############Faalk.."
+    "..(aaEf##############bbbbbb##############mEaa(.."
+    ".klaa,###############bbbbbb###############Faal1."
+    ".LaaEm###############bbbbbb###############mEaaL."
+    "e`aa,################bbbbbb################,aa`j"
+    "oaa4f######################################f4aao"
+    "{aaS########################################SaaP"
+    "/aaE9f####################################f9Eaa/"
+    "klaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa8k"
+    ".{caaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaac{."
+    "..o%R8aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa8R%o..";
 
 // Entry field with a crossed disc: cannot be read.
 inline constexpr std::uint32_t kInputErrorColors[] = {
-    0x00000000, 0xFFF7F9FB, 0xFF2B3A4A, 0xFFE83A37, 0xFF7D0F12, 0xFFFFFFFF, 0xFFFBDBDA, 0xFFE9413E,
-    0xFFEA4946, 0xFFF9CAC9, 0xFFE63936, 0xFFE23835, 0xFFE33835, 0xFFE73A37, 0xFFE83C39, 0xFFF6B5B4,
-    0xFF881316, 0x827E1012, 0xFF959DA6, 0xFFA55D60, 0xBE7D0F11, 0x3D7D1111, 0xBF2B3949, 0xFFF18583,
-    0x8F374656, 0xFFC8CCD2, 0xFFB82727, 0xFFBE8B8D, 0xFF512630, 0xFFD0ADAF, 0xFF903436, 0xDC7D0F13,
-    0xA27C1011, 0x567D0F12, 0xFF9F1C1D, 0xE52B3A49, 0xFF9B484B, 0xFF681A20, 0xFFB37679, 0xFFCC2F2E,
-    0xFF3E303D, 0xFFDAC1C3, 0xFF872326, 0x762B3A49, 0xCC851214, 0xEA7D0F13, 0x747D0F12, 0xFFAB2222,
-    0xFFEBEEF1, 0xF4891416, 0xFFD73231, 0xCC2B3A4A, 0x8D841012, 0x4B7E0E11, 0xFF9B3F41, 0xFF721A1F,
-    0xF77B0F14, 0x882B3A49, 0xFF5F1F26, 0xFFB77F81, 0x08800020, 0xFF462C38, 0xFF901619, 0xFFC02A29,
-    0xA97D0F12, 0xFFF2F1F3, 0xFF831A1D, 0xFF8E1F20, 0xFF58222C, 0xFF751318, 0xFF8B292D, 0xE27D0F12,
-    0xFB2E3C4C, 0xFFC62D2C, 0x897D0F13, 0xF8800F13, 0xFE70161A, 0x517E1013, 0xFFD1B2B4, 0xFFF9CFCE,
-    0xFF821518, 0xFF8D2E31, 0xFFF8C5C4, 0xD77D0F12, 0xFE791014, 0xFFF2F4F7, 0xFFF7B9B8, 0xFFFAD7D6,
-    0xFFA76164, 0xFFBC2827,
+    0x00000000, 0xFFF7F9FB, 0xFF2B3A4A, 0xFFE83A37, 0xFF7D0F12, 0xFFFFFFFF, 0xFFE94542, 0xFFFAD4D3,
+    0xFFEC5856, 0xFFFDECEB, 0xFFE63936, 0xFFE23835, 0x04404040, 0xFFB42525, 0xFFEB5754, 0xFFEF7674,
+    0xFFF8C0BF, 0x7F7C0E12, 0xFF959DA6, 0xBF7D0F11, 0xFFA86366, 0x427C0F13, 0xBF2B3949, 0xFFC8CCD2,
+    0x8E364656, 0xFFCEAAAC, 0xFF903335, 0xFFBD8789, 0xFFF4A2A1, 0x237C0F0F, 0xA17D0E11, 0xF4991A1C,
+    0xE7821214, 0xFF9B494C, 0xFFE4D5D8, 0xE52B3A49, 0xFFC72D2C, 0xFFD7BCBE, 0x557E0F12, 0xFF862124,
+    0x752C3B4A, 0xFFA12526, 0xFFEFE9EB, 0xFFB4797C, 0xD67D0F12, 0x11780F0F, 0xFFD43230, 0xFF8C1517,
+    0xFFF6B3B2, 0xFF822C30, 0xCB841214, 0xF37D0F12, 0xFF953E40, 0xCC2B3A4A, 0xFFAE6D6F, 0xFF9C1B1D,
+    0x987E0F12, 0x862C394A, 0xFF741318, 0x897D0F13, 0xFF811719, 0xFFF2F1F3, 0xFFFEF6F6, 0xFFEB504E,
+    0xF69F1D1E, 0xEC7D0F12, 0xFB2E3C4C, 0xF9771217, 0x3C7B1111, 0xCC7D0F12, 0xFF8C2528, 0xFFEBEEF1,
+    0xFF882D30, 0xFFDC3633, 0xF97D0F12, 0xE57D0E12, 0x7B811113, 0x09711C1C, 0xFF911719, 0xFF851215,
+    0xFF9A3D40, 0xFFB97E80, 0xFFDAC1C3, 0xFE781115, 0x517E1013, 0xFFA01D1E, 0xFFFAD8D7, 0xFFF2F4F7,
+    0xFFD0302F, 0xFFFEFAFA,
 };
 inline constexpr std::string_view kInputError1x =
     "................"
-    "w,aaaaaaaaaaaa,w"
-    ",U############U,"
+    "w%aaaaaaaaaaaa%w"
+    "%+############+%"
     "a#aaa##########a"
     "a##a###########a"
-    "a##a####=0@@0=#a"
-    "a##a###K&-jj-&Ka"
-    "a##a##=&jvmmvj&7"
-    "a#aaa#0-vdnndv-1"
-    ",U####@jmnddnmjc"
-    "w,aaaacjmnddnmj:"
-    "......Q-vdnndv-Q"
-    "......ZVjvmmvjVZ"
-    ".......YV-jj-VY."
-    "........ZQ::QZ..";
+    "a##a###########a"
+    "a##a###|z*c*[7#a"
+    "a##a##|@NSiSN@|a"
+    "a#aaa#zNUnbnUNza"
+    "%+####*Sn8A8nS*%"
+    "w%aaaacibAdAbicw"
+    "......ESn8A8nSE."
+    "......5!UnbnUD;."
+    "......<WDSiSDWk."
+    ".......k;E/E;k..";
 inline constexpr std::string_view kInputError2x =
     "................................"
     "................................"
-    "63HaaaaaaaaaaaaaaaaaaaaaaaaaaH36"
+    "k3HaaaaaaaaaaaaaaaaaaaaaaaaaaH3k"
     "3aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa3"
-    "Hax##########################xaH"
+    "Hav##########################vaH"
     "aa############################aa"
     "aa##aaaaaa####################aa"
     "aa##aaaaaa####################aa"
     "aa####aa######################aa"
     "aa####aa######################aa"
-    "aa####aa#########$B}C%%C}B$###aa"
-    "aa####aa########B[cccccccc[B##aa"
-    "aa####aa#######Kcc8yWjjWy8ccK#aa"
-    "aa####aa######Kcc~lbbbbbbl~cc5aa"
-    "aa####aa#####BccLbffbbbbffbLcc7a"
-    "aa####aa####$[c~bfhhfbbfhhfb~c;a"
-    "aa##aaaaaa##Bc8ifhdd>ffhdd>fi8c7"
-    "aa##aaaaaa##}cybfhdddhhdddhfbyc4"
-    "aa##########CcWbbfhddddddhfbbWc;"
-    "Hax#########%ckbbbfhddddhfbbbjc_"
-    "3aaaaaaaaaaa_ckbbbfhdddd>fbbbjc2"
-    "63Haaaaaaaaa;cWbbfhddddddhfbbWc^"
-    "............EcybfhdddhhdddhfbycE"
-    "............Fc8if]ddhff]ddhfi8cF"
-    "............6Dc~bfhhfbbfhhfbycD6"
-    ".............<ccLbffbbbbffbLcc<."
-    "............../cc~ibbbbbbiycc/.."
-    ".............../cc8yWkkWy8cc/..."
-    "................<DccccccccD<...."
-    ".................6FE^22^EF6.....";
+    "aa####aa######################aa"
+    "aa####aa######################aa"
+    "aa####aa#########J0y66y0J#####aa"
+    "aa####aa#######GFccccccccFG###aa"
+    "aa####aa######]Lc>lSjjSl>cL]##aa"
+    "aa####aa#####GLc`jbbbbbbj`cLG#aa"
+    "aa##aaaaaa###Fc`eogbbbbgoe`cF#aa"
+    "aa##aaaaaa##Jc>jodhgbbghdoj>cJaa"
+    "aa##########0clbghdhgghdhgblc0aa"
+    "Hav#########ycSbbghdhhdhgbbSc,aH"
+    "3aaaaaaaaaaa^cjbbbghddhgbbbjc^a3"
+    "k3Haaaaaaaaa^cjbbbghddhgbbbjc^3k"
+    "............QcSbbghdhhdhgbbScQ.."
+    "............2clbghdhgghdhgblc2.."
+    "............tc>jodhgbbghdoj>ct.."
+    ".............rc`eogbbbbgoe`cr..."
+    ".............B$c`jbbbbbbj`c$B..."
+    "..............($c>lSjjSl>c$(...."
+    "...............BrccccccccrB....."
+    ".................t2QXXQ2t.......";
 inline constexpr std::string_view kInputError3x =
     "................................................"
     "................................................"
     "................................................"
-    "..PX,aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa,XP.."
-    ".uaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaau."
-    "PaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaP"
-    "Xaaq`######################################`qaaX"
-    ",aa`########################################`aa,"
+    ".kMZ%aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa%ZMk."
+    "kuaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaauk"
+    "MaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaM"
+    "Zaaq|######################################|qaaZ"
+    "%aa|########################################|aa%"
     "aaa##########################################aaa"
     "aaa###aaaaaaaaa##############################aaa"
     "aaa###aaaaaaaaa##############################aaa"
@@ -1600,36 +1600,36 @@ inline constexpr std::string_view kInputError3x =
     "aaa######aaa#################################aaa"
     "aaa######aaa#################################aaa"
     "aaa######aaa#################################aaa"
-    "aaa######aaa################NKIC%%CIKN#######aaa"
-    "aaa######aaa#############$zOccccccccccOz$####aaa"
-    "aaa######aaa############B*cccccccccccccc*B###aaa"
-    "aaa######aaa###########5ccccoTLWjjWLTocccc5##aaa"
-    "aaa######aaa##########rccco9ibbbbbbbbi9occcr#aaa"
-    "aaa######aaa#########5cccGkbbbbbbbbbbbbjGccc5aaa"
-    "aaa######aaa########BcccTlbbbbbbbbbbbbbblTccc7aa"
-    "aaa######aaa#######$*ccGlbbg{gbbbbbbg{gbblGcc)aa"
-    "aaa######aaa#######zccokbbgedegbbbbgedegbbjoccAa"
-    "aaa###aaaaaaaaa####Occ9bbg|dddegbbg|dddegbb9cc)a"
-    "aaa###aaaaaaaaa###Nccoibb{dddddeggeddddd{bbioccM"
-    "aaa###aaaaaaaaa###KccTbbbgedddddeedddddegbbbTcc("
-    "aaa###############IccLbbbbgeddddddddddegbbbbLccJ"
-    ",aa`##############CccWbbbbbg|ddddddddegbbbbbWcc;"
-    "Xaaq`#############%cckbbbbbbgeddddddegbbbbbbkcc_"
-    "Paaaaaaaaaaaaaaaaa_cckbbbbbbg|ddddddegbbbbbbjcc2"
-    ".uaaaaaaaaaaaaaaaa;ccWbbbbbg|ddddddddegbbbbbWcc^"
-    "..PX,aaaaaaaaaaaaaJccLbbbbgeddddddddddegbbbbLccs"
-    "................../ccTbbbgedddddeedddddegbbbTcc/"
-    "..................tccoibb{dddddeggeddddd{bbiocct"
-    "...................Rcc9bbg|dddegbbg|dddegbb9ccR."
-    "...................SccojbbgedegbbbbgedegbbjoccS."
-    "...................6+ccGibbg{gbbbbbbg{gbblGcc+6."
-    "....................FcccTlbbbbbbbbbbbbbblTccc<.."
-    "...................../cccGjbbbbbbbbbbbbjGcccp..."
-    "......................!ccco9ibbbbbbbbi~occc!...."
-    ".......................pccccoTLWkkWLToccccp....."
-    "........................<+cccccccccccccc+<......"
-    ".........................6SRccccccccccRS6......."
-    "............................t/s^22^s/t..........";
+    "aaa######aaa#################################aaa"
+    "aaa######aaa#################################aaa"
+    "aaa######aaa#################################aaa"
+    "aaa######aaa##############OxsY*6*YsxO########aaa"
+    "aaa######aaa############OP6ccccccccc6PO######aaa"
+    "aaa######aaa###########xLcccccccccccccLx#####aaa"
+    "aaa######aaa##########zcccc=l}-i-}l=ccccz####aaa"
+    "aaa######aaa#########zcccTIbbbbbbbbbITcccz###aaa"
+    "aaa######aaa########xccc1jbbbbbbbbbbbj1cccx##aaa"
+    "aaa###aaaaaaaaa####OLcc1imoebbbbbbbeomi1ccLO#aaa"
+    "aaa###aaaaaaaaa####PccTjmhdfebbbbbefdhmjTccP#aaa"
+    "aaa###aaaaaaaaa###O6ccIbodddfebbbefdddobIcc67aaa"
+    "aaa###############xcc=bbefdddfebefdddfebb=ccxaaa"
+    "%aa|##############scclbbbefddd{9fddd{ebbblccsaa%"
+    "Zaaq|#############Ycc}bbbbefddd~dddfebbbb}ccVaaZ"
+    "Maaaaaaaaaaaaaaaaa4cc-bbbbbefddddd{ebbbbb-cc4aaM"
+    "kuaaaaaaaaaaaaaaaacccibbbbbb9~ddd~9bbbbbbicccauk"
+    ".kMZ%aaaaaaaaaaaaa4cc-bbbbbefddddd{ebbbbb-cc&Mk."
+    "..................)cc}bbbbefddd~dddfebbbb}cc)..."
+    "..................Ccclbbbefddd{9fddd{ebbblccC..."
+    "..................Kcc=bbefdddfebefdddfebb=ccK..."
+    "..................<XccIbodddfebbbefdddobIccX<..."
+    "...................5ccTjmhdfebbbbbefdhmjTcc5...."
+    "...................R$cc1imoebbbbbbbeomi1cc$R...."
+    "....................Kccc1jbbbbbbbbbbbj1ccc_....."
+    ".....................pcccTIbbbbbbbbbITcccp......"
+    "......................pcccc=l}-i-}l=ccccp......."
+    ".......................K$ccccccccccccc$_........"
+    "........................R5XcccccccccX5R........."
+    "..........................<KC):/:)CK<...........";
 
 // Stop sign with an exclamation mark.
 inline constexpr std::uint32_t kCriticalColors[] = {
@@ -1740,112 +1740,112 @@ inline constexpr std::string_view kCritical3x =
 
 // Triangle with an exclamation mark: take care.
 inline constexpr std::uint32_t kExclamationColors[] = {
-    0x00000000, 0xFFFFC91F, 0xFF6E4A00, 0xFF3A2600, 0xFFFEC81F, 0xFE6E4A00, 0x02808000, 0xF16E4A00,
-    0x01000000, 0xFC6E4A00, 0x4E6F4B00, 0xFF734E01, 0x0D764E00, 0x06805500, 0xFFD0A015, 0xFFFCC61E,
-    0x236D4900, 0x9D6E4B00, 0xF49F760A, 0xC9775103, 0x756D4A00, 0xFFB4870F, 0xFF8C6406, 0xFFE7B31A,
-    0xDC6E4A00, 0x39704C00, 0x896E4A00, 0x626D4900, 0xB06E4A00, 0xF3815A04, 0xFFC29312, 0xFFA77D0C,
-    0xFF996F09, 0xF2946A08, 0xBC6E4B00, 0xFF7F5904, 0x186A4A00, 0xFFDBA917, 0xCF6E4A00, 0x446D4B00,
-    0x2F6D4C00, 0xE76E4A00, 0xFFF0BD1C, 0xF5765002, 0xD9775102, 0xC66D4900, 0x946E4A00, 0xE4755101,
-    0xFCBC8F10, 0xF38C6506, 0x7D6E4900, 0xA56E4A00, 0xF7A87D0C, 0xBB775201, 0x5B6D4900, 0x696D4900,
-    0xFFC99A13, 0xF47B5603, 0x97764F02, 0xEE744F01, 0x556F4B00, 0xFF795402, 0xFFE1AE19, 0x6F6E4A00,
-    0xD56E4A00, 0xB66F4A00, 0x29704B00, 0xFF855E05, 0xFF926A08, 0xFFAD810D, 0xFFF6C11D, 0x136B5100,
-    0xF76E4A00, 0xFFECB81B, 0x496C4900, 0xEC6E4900, 0x8E6E4A00, 0xAA6E4A00, 0x826E4B00, 0x1E6F4D00,
-    0x86744E00, 0xFFBA8C10, 0xC26E4A00, 0xE06E4A00, 0x336E4B00, 0x40704C00, 0xFF9D730A, 0xFFA4790C,
-    0xFFC69613, 0xFFD7A616,
+    0x00000000, 0xFFFFCF2E, 0xFF8A5D00, 0xFF3A2600, 0xFD8A5D00, 0xFE8A5D00, 0x03AA5500, 0xFF8A5E00,
+    0x02808000, 0x0D896200, 0xEF8A5D00, 0xFFFECE2D, 0xFFFECE2E, 0x06805500, 0x328A5C00, 0x358C5B00,
+    0x288C6000, 0x91895D00, 0xFFC49617, 0xC08A5D00, 0x638B5D00, 0xF3AA7D0D, 0xFFE1B122, 0xD88A5D00,
+    0x4C8A5E00, 0x79895D00, 0xA68A5E00, 0xFF9D7008, 0xFFB28410, 0xFFEFC028, 0xFFD2A31C, 0xCA946604,
+    0x1A895800, 0xB38A5D00, 0x858A5E00, 0xFABB8D13, 0x408B5C00, 0xE38A5D00, 0x578A5E00, 0x6F8C5E02,
+    0xFFA87A0C, 0xF6B48611, 0x9A906303, 0xFF936503, 0xCF8A5C00, 0xF3A37409, 0xE98F6102, 0xFFF7C72B,
+    0xF68A5D00, 0xFFE8B925, 0xC88A5D00, 0xFFCB9C19, 0xFFDAAB20, 0x9F8A5D00, 0xD0916202, 0x7F8F6002,
+    0xF38F6102, 0x22875A00, 0xAD8B5D00, 0x148C5900, 0xB98A5C00, 0x8B8A5E00, 0x468A5F00, 0x5E906203,
+    0xFFBE9014, 0xFFB88A12, 0x978A5D00, 0xF5AE7F0E, 0xE88A5D00, 0xFFA3750A, 0x748A5C00, 0xDE8A5D00,
+    0xFF976A05, 0xEE906302, 0xF2A6780C, 0x6A895E00, 0xC48A5C00, 0x3C885E00, 0x5B895C00, 0xFF8E6001,
+    0xFFAE800E, 0xFFE4B523, 0x538A5C00, 0x2E8B5E00, 0xFFCEA01B, 0xFFECBC26, 0xFFF3C329, 0xFFFACB2C,
+    0x80895E00, 0x608A6000,
 };
 inline constexpr std::string_view kExclamation1x =
-    ".......II......."
-    ".......rr......."
-    "......iBBi......"
-    ".....lT~JTl....."
-    ".....9F##F9....."
-    "....+PvbbvP+...."
-    "....4Y#bb#Y4...."
-    "...oP*#bb#*Po..."
-    "...ZU##bb##UZ..."
-    "..`3n##bb##n3L.."
-    ".eQm########mQe."
-    ".zVc###bb####Vz."
-    "k58####bb####85k"
-    "@q############q@"
-    "NaaaaaaaaaaaaaaN";
+    "......5OO5......"
+    ".....e0HH0e....."
+    ".....~R##R~....."
+    "....lSu##[Sl...."
+    "....:/#bb#/s...."
+    "...lS[#bb#VSl..."
+    "...Lt##bb##tL..."
+    "..l-V##bb##V-h.."
+    "..x&###bb###&*.."
+    ".h2V###bb###`2h."
+    ".1&##########N1."
+    "h2`####bb####B25"
+    "1N#####bb#####N1"
+    "DY############YD"
+    "92aaaaaaaaaaaa29";
 inline constexpr std::string_view kExclamation2x =
-    "................................"
-    "...............zz..............."
-    "..............xddx.............."
-    "..............]aaRg............."
-    ".............6a77a6............."
-    "............lwa}}awl............"
-    "............sa&cc&as............"
-    "...........+fa~##JafI..........."
-    "...........SaE####EaS..........."
-    "..........%hav####vjhM.........."
-    "..........$a)#bbbb#)aG.........."
-    "........./a7*#bbbb#*7a/........."
-    "........e!aC##bbbb##Ua!e........"
-    "........1aHn##bbbb##n&a1........"
-    ".......kNam###bbbb###ma:k......."
-    ".......yauc###bbbb####(ay......."
-    "......o,a8####bbbb####8a,o......"
-    "......<a|#####bbbb#####|a<......"
-    ".....xdj-#####bbbb#####Oja`....."
-    "....gRat######bbbb######taKe...."
-    "....0aHn################nHa0...."
-    "...l^a2##################2a^k..."
-    "...Wauc#######bbbb#######cuaW..."
-    "..IfaJ########bbbb########JafI.."
-    "..pa{#########bbbb#########{ap.."
-    ".Mhj-#########bbbb#########-jd_."
-    ".Ga)########################)aG."
-    "ia7*########################*7ai"
-    "!aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa!"
-    "]aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa]";
+    "..............E::E.............."
+    ".............=UaaU=............."
+    "............8caAAac8............"
+    "...........h(aq##qa(h..........."
+    "...........xa)###k)ax..........."
+    "..........hiau####uai5.........."
+    "..........}aM######Ma}.........."
+    ".........5iau######[aU5........."
+    ".........7a@##bbbb##Ma7........."
+    "........EUfV##bbbb##VfUE........"
+    "........pa@###bbbb###@ap........"
+    ".......EUaV###bbbb###`aUE......."
+    ".......%aA####bbbb####Aa%......."
+    "......3Ua`####bbbb####Bac3......"
+    "......Za$#####bbbb#####AaZ......"
+    ".....ocaB#####bbbb#####B>co....."
+    ".....ya$######bbbb######$ay....."
+    "....oc>B######bbbb######B>c^...."
+    "....4a!#######bbbb#######!a4...."
+    "...md>{#######bbbb#######{>dn..."
+    "...Fa!####################!aF..."
+    "..nd>T####################T>an.."
+    "..6aq#########bbbb#########qa6.."
+    ".<aPT#########bbbb#########TPaI."
+    ".raq##########bbbb##########qa;."
+    "maPT##########bbbb##########TPam"
+    "*a$##########################$a*"
+    "7a!T########################T!a7"
+    "IdaaaaaaaaaaaaaaaaaaaaaaaaaaaadI"
+    ".K;iaaaaaaaaaaaaaaaaaaaaaaaai;].";
 inline constexpr std::string_view kExclamation3x =
-    "................................................"
-    "................................................"
-    "......................I]]I......................"
-    "......................<aa<......................"
-    ".....................xdaadx....................."
-    "....................gRaaaaKe...................."
-    "....................0aajjaa0...................."
-    "...................l^aattaa^k..................."
-    "...................Waa7**HaaW..................."
-    "..................Ifaa}##}aafI.................."
-    "..................paauc##cuaap.................."
-    ".................Mhaa~####Jaad_................."
-    ".................GaaE######EaaG................."
-    "................iaaav######vjaai................"
-    "...............lwaa)########)aawl..............."
-    "...............9aa7*#bbbbbb#*7aa9..............."
-    "..............+:aaC##bbbbbb##Caa:+.............."
-    "..............;aaHn##bbbbbb##n&aa;.............."
-    ".............o,aam###bbbbbb###maaho............."
-    ".............Aaa(####bbbbbb####(aaA............."
-    "............`aaa8####bbbbbb####vaaaL............"
-    "...........eKaa|#####bbbbbb#####|aaKe..........."
-    "...........zaajO#####bbbbbb#####Ojaaz..........."
-    "..........kNaat######bbbbbb######taaNk.........."
-    "..........=aaHn######bbbbbb######nHaa=.........."
-    ".........Ifaa2#######bbbbbb#######2aa,>........."
-    ".........Xaauc#######bbbbbb#######cuaaX........."
-    "........MdaaJ########bbbbbb########Jaad_........"
-    "........]aa{#########bbbbbb#########{aaRg......."
-    ".......6aaj-#########bbbbbb#########-jaa6......."
-    "......lwaa)##########################)aawl......"
-    "......saa7*##########################*7aas......"
-    ".....+faaC############################CaafI....."
-    ".....Saa&n###########bbbbbb###########c&aaS....."
-    "....%haa~############bbbbbb############~aah%...."
-    "....$aa(#############bbbbbb#############Eaa$...."
-    "...Laaav#############bbbbbb#############vaaa/..."
-    "..eKaaD##############bbbbbb##############Daa!e.."
-    "..1aajO##############bbbbbb##############Ojaa1.."
-    ".kNaa[####################################[aaNk."
-    ".yaaHn####################################nHaay."
-    ">,aam######################################2aa,o"
-    "XaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaX"
-    "faaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaf"
-    "yhaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaahy";
+    "......................eooe......................"
+    "....................l*iaai*l...................."
+    "...................h6aaaaaarh..................."
+    "..................gFaaa,,aaaFg.................."
+    "..................xaafqkkqfaax.................."
+    ".................EUaaq####qaaUE................."
+    ".................%aa)j####j)aa%................."
+    "................3Uaau######uaac3................"
+    "................ZaaM########MaaZ................"
+    "...............ocaa[########[aaco..............."
+    "...............yaaM##########Maay..............."
+    "..............ocaa[##########Vfac^.............."
+    "..............4aa@###bbbbbb###@aa4.............."
+    ".............mdafV###bbbbbb###Vaadn............."
+    ".............FaaA####bbbbbb####AaaF............."
+    "............ndaa`####bbbbbb####Baaa<............"
+    "............6aaA#####bbbbbb#####Aaa6............"
+    "...........<aaa`#####bbbbbb#####BaaaI..........."
+    "...........raa$######bbbbbb######$aa;..........."
+    "..........8aa>B######bbbbbb######B>aa8.........."
+    "..........Waa!#######bbbbbb#######$aaW.........."
+    ".........waa>{#######bbbbbb#######{>aaw........."
+    ".........Qaa!########bbbbbb########!aaQg........"
+    "........Kaa>{########bbbbbb########TPaaK........"
+    ".......gQaaq#########bbbbbb#########!aave......."
+    ".......=aaPT#########bbbbbb#########TPaa=......."
+    "......evaaq##########bbbbbb##########qaave......"
+    "......saaPT##########bbbbbb##########TPaas......"
+    ".....l+aaX###########bbbbbb###########qaaJl....."
+    ".....:aaPT###########bbbbbb###########|,aa:....."
+    "....lJaaX##############################Xaa(l...."
+    "....*aa,|##############################|,aaL...."
+    "...h(aa_################################_aa(h..."
+    "...xaa,j#############bbbbbb#############j,aax..."
+    "..hiaaC##############bbbbbb##############Caaih.."
+    "..}aazj##############bbbbbb##############jzaa}.."
+    ".hiaaC###############bbbbbb###############Caai5."
+    ".Gaazj###############bbbbbb###############jzaaG."
+    "e(aaY################bbbbbb################Yaa(g"
+    "naa,k######################################k,aam"
+    "=aaA########################################AaaK"
+    "waazV|####################################|Vzaaw"
+    "hiaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaUh"
+    ".=caaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaac=."
+    "..mZJUaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaU+Z^..";
 
 // Speech bubble with a question mark.
 inline constexpr std::uint32_t kQuestionColors[] = {

@@ -15,10 +15,6 @@ bool alike(QRgb a, QRgb b) {
 
 QString sizeOf(const QImage& image) { return QString("%1x%2").arg(image.width()).arg(image.height()); }
 
-QString kept(const QString& name) {
-  return QStringLiteral(QRN_SOURCE_DIR "/tests/golden/pictures/%1.png").arg(name);
-}
-
 bool save(const QImage& image, const QString& file) {
   constexpr int kSmallest = 0;  // the best compression, not the worst picture
   return image.convertToFormat(QImage::Format_RGB888).save(file, "PNG", kSmallest);
@@ -48,8 +44,8 @@ Comparison compare(const QImage& actual, const QImage& expected) {
   return {complaint.toStdString(), difference};
 }
 
-std::string compareWithKept(const QImage& actual, const QString& name) {
-  const QString file = kept(name);
+std::string compareWithKept(const QImage& actual, const QString& name, const QString& folder) {
+  const QString file = QStringLiteral(QRN_SOURCE_DIR "/%1/%2.png").arg(folder, name);
   if (qEnvironmentVariableIsSet("QRN_REFRESH_GOLDEN")) {
     const QString what = save(actual, file)
                              ? "%1 is new: look at it, then run again without QRN_REFRESH_GOLDEN"
@@ -62,13 +58,13 @@ std::string compareWithKept(const QImage& actual, const QString& name) {
   const QImage expected(file);
   const Comparison result = compare(plain, expected);
   if (result.complaint.empty()) return {};
-  const QString folder = QCoreApplication::applicationDirPath() + "/golden";
-  const QString stem = folder + "/" + name;
+  const QString written = QCoreApplication::applicationDirPath() + "/golden";
+  const QString stem = written + "/" + name;
   std::string message = result.complaint + "\n  expected:   " + file.toStdString();
   if (expected.isNull()) message += " (missing; made with QRN_REFRESH_GOLDEN=1)";
-  const bool written = QDir().mkpath(folder) && save(plain, stem + "_actual.png") &&
-                       (result.difference.isNull() || save(result.difference, stem + "_difference.png"));
-  if (!written) return message + "\n  nothing could be written to " + folder.toStdString();
+  const bool saved = QDir().mkpath(written) && save(plain, stem + "_actual.png") &&
+                     (result.difference.isNull() || save(result.difference, stem + "_difference.png"));
+  if (!saved) return message + "\n  nothing could be written to " + written.toStdString();
   message += "\n  actual:     " + stem.toStdString() + "_actual.png";
   if (!result.difference.isNull()) message += "\n  difference: " + stem.toStdString() + "_difference.png";
   return message;

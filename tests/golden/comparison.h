@@ -25,6 +25,7 @@ Comparison compare(const QImage& actual, const QImage& expected);
 /// Compares a picture with the one that is kept under this name, and complains with where both and their
 /// difference were written. With QRN_REFRESH_GOLDEN set it is kept instead, which is a complaint as well:
 /// nobody has looked at it yet.
-std::string compareWithKept(const QImage& actual, const QString& name);
+std::string compareWithKept(const QImage& actual, const QString& name,
+                            const QString& folder = "tests/golden/pictures");
 
 }  // namespace qrn::golden

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "golden/comparison.h"
+#include "golden/palettes.h"
+#include "golden/sheet.h"
+#include "images/QRNImageList.h"
+#include "images/built_in_pictures.h"
+#include "platform/qt/qt_platform.h"
+#include "platform/qt/qt_site.h"
+#include "platform/qt/qt_surface.h"
+
+namespace qrn::golden {
+namespace {
+
+// A cell holds a picture of 16 x 15 at three times its size.
+constexpr int kCell = 52;
+
+struct Ground {
+  const char* name;
+  QPalette palette;
+};
+
+QList<Ground> grounds() { return {{"light", lightPalette()}, {"dark", darkPalette()}}; }
+
+/// What every release shows its users, so the picture that is kept is the one in the documentation.
+class BuiltInPictureSheet : public testing::Test {
+ protected:
+  BuiltInPictureSheet() { QApplication::setPalette(lightPalette()); }
+  ~BuiltInPictureSheet() override { QApplication::setPalette(usual_); }
+
+  /// A picture as rows and buttons draw it on a screen of a scale factor, pixel by pixel.
+  QImage drawn(std::int32_t id, int scale, const QPalette& palette) {
+    QImage image(kCell, 15 * scale + 4, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    image.fill(palette.color(QPalette::Window));
+    QPainter painter(&image);
+    qt::QtSurface surface(platform_, painter, {0, 0, kCell, kCell});
+    surface.picture({2.0 / scale, 2.0 / scale}, *list_->Image(static_cast<qrnImageId>(id)));
+    image.setDevicePixelRatio(1);
+    return image;
+  }
+
+  QImage numbers(int first, int end) {
+    QStringList columns;
+    for (int id = first; id < end; ++id) columns.append(QString::number(id));
+    Sheet sheet(columns, kCell);
+    for (const Ground& ground : grounds()) {
+      for (const int scale : {1, 2, 3}) {
+        QList<QImage> row;
+        for (int id = first; id < end; ++id) row.append(drawn(id, scale, ground.palette));
+        sheet.addRow(QString("%1, %2x").arg(ground.name).arg(scale), row, 15 * scale + 4);
+      }
+    }
+    return sheet.picture();
+  }
+
+ private:
+  const QPalette usual_ = QApplication::palette();
+  qt::QtPlatform platform_;
+  qt::QtSite site_{platform_};
+  host::Owned<QRNImageList> list_ = host::create<QRNImageList>(site_);
+};
+
+QImage oneBelowTheOther(const QList<QImage>& parts) {
+  QSize size;
+  for (const QImage& part : parts)
+    size = {std::max(size.width(), part.width()), size.height() + part.height()};
+  QImage whole(size, QImage::Format_RGB32);
+  whole.fill(QApplication::palette().color(QPalette::ToolTipBase));
+  QPainter painter(&whole);
+  int y = 0;
+  for (const QImage& part : parts) {
+    painter.drawImage(0, y, part);
+    y += part.height();
+  }
+  return whole;
+}
+
+TEST_F(BuiltInPictureSheet, ShowsEveryNumberAtThreeScalesOnLightAndDark) {
+  constexpr int kHalf = (kBuiltInPictureCount + 1) / 2;
+  const QImage sheet = oneBelowTheOther({numbers(0, kHalf), numbers(kHalf, kBuiltInPictureCount)});
+  EXPECT_EQ(compareWithKept(sheet, "pictures", "docs"), "");
+}
+
+}  // namespace
+}  // namespace qrn::golden
