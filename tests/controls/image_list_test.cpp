@@ -75,7 +75,13 @@ TEST_F(ImageList, LooksLikeAWhiteBoxWithThreeSmallOnes) {
   headless::RecordingSurface surface(platform, {32, 32});
   list->paint(surface, {32, 32});
   EXPECT_EQ(surface.operations("fill"), (Events{"fill 0,0 32x32 #ffffff"}));
-  EXPECT_EQ(surface.operations("line").size(), 4u * 4u);  // four frames of four lines
+  const Events lines = surface.operations("line");
+  ASSERT_EQ(lines.size(), 4u * 4u);  // four frames of four lines
+  const auto upperEdge = [&](std::size_t frame) { return lines[4 * frame + 1]; };
+  EXPECT_EQ(upperEdge(0), "line 0,0 31,0 #000000");
+  EXPECT_EQ(upperEdge(1), "line 3,3 8,3 #000000");
+  EXPECT_EQ(upperEdge(2), "line 12,3 17,3 #000000");
+  EXPECT_EQ(upperEdge(3), "line 21,3 26,3 #000000");
 }
 
 }  // namespace

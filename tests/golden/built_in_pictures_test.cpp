@@ -7,6 +7,7 @@
 #include "golden/sheet.h"
 #include "images/QRNImageList.h"
 #include "images/built_in_pictures.h"
+#include "images/toolbox_bitmaps.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_site.h"
 #include "platform/qt/qt_surface.h"
@@ -63,6 +64,31 @@ class BuiltInPictureSheet : public testing::Test {
   host::Owned<QRNImageList> list_ = host::create<QRNImageList>(site_);
 };
 
+/// As a bitmap file, so that somebody else's reader of such files judges it.
+QImage toolboxPicture(std::int32_t id) {
+  const auto bitmap = toolboxBitmap(id);
+  QByteArray file =
+      QByteArray::fromHex("424dee0000000000000076000000");  // 14 + 224 bytes, the pixels from 118
+  file.append(reinterpret_cast<const char*>(bitmap.data()), static_cast<qsizetype>(bitmap.size()));
+  return QImage::fromData(file, "BMP");
+}
+
+QImage toolbox() {
+  QStringList columns;
+  for (std::int32_t id = kFirstToolboxBitmap; id <= kLastToolboxBitmap; ++id)
+    columns.append(QString::number(id));
+  Sheet sheet(columns, kCell);
+  for (const int times : {1, 3}) {
+    QList<QImage> row;
+    for (std::int32_t id = kFirstToolboxBitmap; id <= kLastToolboxBitmap; ++id) {
+      const QImage picture = toolboxPicture(id);
+      row.append(picture.scaled(picture.size() * times));
+    }
+    sheet.addRow(times == 1 ? "toolbox" : "enlarged", row, 15 * times + 4);
+  }
+  return sheet.picture();
+}
+
 QImage oneBelowTheOther(const QList<QImage>& parts) {
   QSize size;
   for (const QImage& part : parts)
@@ -78,9 +104,16 @@ QImage oneBelowTheOther(const QList<QImage>& parts) {
   return whole;
 }
 
+TEST_F(BuiltInPictureSheet, ToolboxBitmapsAreReadAsBitmapFiles) {
+  for (std::int32_t id = kFirstToolboxBitmap; id <= kLastToolboxBitmap; ++id) {
+    EXPECT_EQ(toolboxPicture(id).size(), QSize(16, 15)) << id;
+    EXPECT_EQ(toolboxPicture(id).colorCount(), 16) << id;
+  }
+}
+
 TEST_F(BuiltInPictureSheet, ShowsEveryNumberAtThreeScalesOnLightAndDark) {
   constexpr int kHalf = (kBuiltInPictureCount + 1) / 2;
-  const QImage sheet = oneBelowTheOther({numbers(0, kHalf), numbers(kHalf, kBuiltInPictureCount)});
+  const QImage sheet = oneBelowTheOther({numbers(0, kHalf), numbers(kHalf, kBuiltInPictureCount), toolbox()});
   EXPECT_EQ(compareWithKept(sheet, "pictures", "docs"), "");
 }
 
