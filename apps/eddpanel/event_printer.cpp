@@ -26,6 +26,8 @@ void EventPrinter::watch(MenuPanel& panel) {
       }));
   connections_.push_back(
       panel.Message.connect([this](const std::string& text) { out_ << "message: " << text << '\n'; }));
+  connections_.push_back(panel.Help.connect(
+      [this](std::int32_t, const std::string& text) { out_ << "help: " << text << '\n'; }));
 }
 
 void EventPrinter::print(MenuPanel& panel, std::string_view name, host::EventArgs arguments) {

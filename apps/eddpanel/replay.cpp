@@ -104,8 +104,7 @@ host::Control& Replay::item(const std::string& name) {
   const std::int32_t position = panel().itemOf(name);
   if (host::Control* button = position == 0 ? footerButton(name) : nullptr) return *button;
   if (position == 0) refuse("panel \"" + panel().menu().label + "\" has no item \"" + name + '"');
-  if (QRNEdit* found = panel().row(position)) return *found;
-  return static_cast<clsQRNAction&>(*panel().display().Items().Item(Variant(position))).Control();
+  return panel().control(position);
 }
 
 host::Control* Replay::footerButton(const std::string& caption) {
@@ -209,6 +208,7 @@ void Replay::press(const std::string& key) {
 void Replay::wait(const std::string& milliseconds) {
   for (auto left = numberOf<long long>(milliseconds); left > 0; --left) {
     platform_.clock().advance(std::chrono::milliseconds(1));
+    platform_.processMessages();
     if (++sinceTick_ % kTickInterval == 0) panels_.tick();
   }
 }

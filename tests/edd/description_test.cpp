@@ -155,6 +155,15 @@ MENU sub { } METHOD go { } VARIABLE v { TYPE FLOAT; })");
   EXPECT_EQ(warningsOf(d), Texts{});
 }
 
+TEST(Menu, KnowsWhetherItIsADialog) {
+  const Description d =
+      read("MENU a { STYLE DIALOG; ITEMS { b } } MENU b { STYLE WINDOW; } MENU c { STYLE; }");
+  EXPECT_TRUE(d.menu("a")->isDialog);
+  EXPECT_EQ(d.menu("a")->items.size(), 1u);
+  EXPECT_FALSE(d.menu("b")->isDialog);
+  EXPECT_FALSE(d.menu("c")->isDialog);
+}
+
 TEST(Menu, MayEndItsItemsWithAComma) {
   EXPECT_EQ(read("MENU a { ITEMS { m, } } METHOD m { }").menus()[0].items.size(), 1u);
 }

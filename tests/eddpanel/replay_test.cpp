@@ -57,7 +57,7 @@ TEST_F(SampleDevice, AMethodReportsAndASubmenuIsAnnounced) {
 TEST_F(SampleDevice, AChosenMenuEntryIsAnEvent) {
   const std::string printed = play("menu 1\nrightclick damping label\n");
   EXPECT_NE(printed.find("ItemMenuClick(1, 1) damping"), std::string::npos) << printed;
-  EXPECT_NE(printed.find("message: Filters the value."), std::string::npos) << printed;
+  EXPECT_NE(printed.find("help: Filters the value."), std::string::npos) << printed;
 }
 
 TEST_F(SampleDevice, AScriptErrorNamesItsLineAndWhatIsWrong) {

@@ -29,8 +29,9 @@ class SampleDevice : public ::testing::Test {
     VARIABLE pressure { LABEL "Pressure"; CLASS DYNAMIC; HANDLING READ; CONSTANT_UNIT "bar";
       TYPE FLOAT { DEFAULT_VALUE 4; DISPLAY_FORMAT "6.3f"; } }
     METHOD self_test { LABEL "Self test"; HELP "Runs it."; DEFINITION { int x; x = 1; } }
-    MENU more { LABEL "More"; ITEMS { pressure } }
-    MENU main { LABEL "Main"; ITEMS { damping, mode, simulate, status, pressure, self_test, more } }
+    MENU more { LABEL "More"; HELP "Shows the rest."; ITEMS { pressure } }
+    MENU trim { LABEL "Trim"; STYLE DIALOG; ITEMS { damping } }
+    MENU main { LABEL "Main"; ITEMS { damping, mode, simulate, status, pressure, self_test, more, trim } }
   )";
 
   SampleDevice() {
@@ -38,12 +39,18 @@ class SampleDevice : public ::testing::Test {
     panels.onOpened([this](MenuPanel& panel) { printer.watch(panel); });
   }
 
-  MenuPanel& main() { return panels.open(*description.menu("main")); }
+  // Opened once, as opening a panel again shows what the device has by then.
+  MenuPanel& main() {
+    if (!main_) main_ = &panels.open(*description.menu("main"));
+    return *main_;
+  }
   QRNEdit& row(std::string_view name) { return *main().row(main().itemOf(name)); }
   /// Plays actions on the panel "Main" and answers what was printed meanwhile.
-  std::string play(const std::string& script) {
+  std::string play(const std::string& script) { return playOn("panel Main\n" + script); }
+  /// The same on the panel that is open, as it is.
+  std::string playOn(const std::string& script) {
     out.str({});
-    replay.playText("panel Main\n" + script, "script");
+    replay.playText(script, "script");
     return out.str();
   }
 
@@ -54,6 +61,9 @@ class SampleDevice : public ::testing::Test {
   DevicePanels panels{description, site};
   EventPrinter printer{out};
   Replay replay{platform, panels, out};
+
+ private:
+  MenuPanel* main_ = nullptr;
 };
 
 }  // namespace qrn::eddpanel

@@ -165,6 +165,7 @@ struct Menu {
   std::string name;
   std::string label;
   std::string help;
+  bool isDialog = false;  ///< STYLE DIALOG
   std::vector<MenuItem> items;
   Place where;
 };

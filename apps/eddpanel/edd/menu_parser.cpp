@@ -84,7 +84,10 @@ Menu parseMenu(Cursor& cursor, const Token& name, std::vector<WrittenItem>& item
     if (parseCommonAttribute(cursor, attribute, menu)) return;
     if (attribute.is("ITEMS")) {
       parseItems(cursor, name, items);
-    } else if (attribute.is("STYLE") || attribute.is("ACCESS")) {
+    } else if (attribute.is("STYLE")) {
+      menu.isDialog = cursor.peek().is("DIALOG");
+      cursor.skipStatement();
+    } else if (attribute.is("ACCESS")) {
       cursor.skipStatement();
     } else {
       skipAttribute(cursor, attribute, "MENU");

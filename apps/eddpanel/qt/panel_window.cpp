@@ -1,6 +1,7 @@
 #include "qt/panel_window.h"
 
 #include <QStatusBar>
+#include <QToolTip>
 #include <algorithm>
 
 namespace qrn::eddpanel {
@@ -57,6 +58,16 @@ void PanelWindow::open(const edd::Menu& menu) {
   }));
   connections_.push_back(panel.Message.connect(
       [this](const std::string& text) { statusBar()->showMessage(QString::fromStdString(text)); }));
+  connections_.push_back(panel.Help.connect([this, &panel](std::int32_t item, const std::string& text) {
+    showHelp(panel.control(item), QString::fromStdString(text));
+  }));
+}
+
+void PanelWindow::showHelp(const host::Control& item, const QString& text) {
+  const Rect at = item.onSurface();
+  const QPoint below(static_cast<int>(at.left), static_cast<int>(at.bottom()));
+  // Never read as markup, whatever it looks like, but broken into lines as only markup is.
+  QToolTip::showText(shown_->mapToGlobal(below), "<span>" + text.toHtmlEscaped() + "</span>", shown_);
 }
 
 }  // namespace qrn::eddpanel

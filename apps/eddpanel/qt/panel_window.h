@@ -20,6 +20,7 @@ class PanelWindow final : public QMainWindow {
 
  private:
   void listPanels();
+  void showHelp(const host::Control& item, const QString& text);
 
   qt::QtPlatform& platform_;
   DevicePanels& panels_;

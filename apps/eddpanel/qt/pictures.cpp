@@ -15,17 +15,13 @@ constexpr int kHighest = 1200;
 std::string numbered(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 
 // Tall enough for all of the panel's items, within reason.
-int heightOf(QRNDisplay& panel) {
+int heightOf(MenuPanel& panel) {
   double bottom = 0;
-  for (const auto& item : panel.Items()) {
-    const host::Control* control = nullptr;
-    if (auto parameter = std::dynamic_pointer_cast<clsQRNParam>(item))
-      control = &parameter->Control();
-    else
-      control = &static_cast<clsQRNAction&>(*item).Control();
-    bottom = std::max(bottom, control->Top() + control->Height());
+  for (std::int32_t item = 1; item <= panel.display().Items().Count(); ++item) {
+    const host::Control& control = panel.control(item);
+    bottom = std::max(bottom, control.Top() + control.Height());
   }
-  const double around = panel.Height() - panel.ControlsContainer().Height();
+  const double around = panel.display().Height() - panel.display().ControlsContainer().Height();
   return std::clamp(static_cast<int>(bottom + around), kLowest, kHighest);
 }
 
@@ -41,8 +37,8 @@ bool writePictures(qt::QtPlatform& platform, DevicePanels& panels, const std::fi
   }
   int number = 0;
   for (const edd::Menu* menu : panels.menus()) {
-    QRNDisplay& panel = panels.open(*menu).display();
-    QWidget* widget = platform.widget(panel);
+    MenuPanel& panel = panels.open(*menu);
+    QWidget* widget = platform.widget(panel.display());
     widget->resize(kWidth, kLowest);
     widget->show();
     widget->resize(kWidth, heightOf(panel));
