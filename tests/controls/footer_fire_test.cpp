@@ -144,6 +144,41 @@ TEST_F(AutoFire, CountsInTheIntervalThatTheTimerHas) {
   EXPECT_EQ(ok->AutoFireDelay(), 20);
 }
 
+TEST_F(AutoFire, AButtonRemovedAfterItHasFiredIsForgotten) {
+  ok->SetAutoFireDelay(100);
+  pass(100ms);
+  EXPECT_EQ(ok->AutoFireDelay(), -1);
+  buttons().Remove(Variant(ok));
+  deliver();
+  EXPECT_EQ(events(), Events{});
+}
+
+TEST_F(AutoFire, ThePanelMayGoWhenAButtonFires) {
+  const auto connection = panel().ButtonClick.connect([&](std::int32_t&) { panel_.reset(); });
+  ok->SetAutoFireDelay(100);
+  cancel->SetAutoFireDelay(100);
+  pass(100ms);
+  deliver();
+  EXPECT_EQ(panel_, nullptr);
+  EXPECT_EQ(platform.clock().runningTimers(), 0);
+}
+
+TEST_F(AutoFire, TheFooterMayBeBuiltAnewAndArmedAgainWhenAButtonFires) {
+  int fired = 0;
+  const auto connection = panel().ButtonClick.connect([&](std::int32_t&) {
+    ++fired;
+    buttons().RemoveAll();
+    add("Refresh")->SetAutoFireDelay(100);
+  });
+  ok->SetAutoFireDelay(100);
+  for (int i = 1; i <= 3; ++i) {
+    pass(100ms);
+    deliver();
+    EXPECT_EQ(fired, i);
+  }
+  EXPECT_EQ(platform.clock().runningTimers(), 1);
+}
+
 TEST_F(AutoFire, ARemovedButtonFiresNoMore) {
   ok->SetAutoFireDelay(100);
   buttons().Remove(Variant(ok));

@@ -10,6 +10,7 @@
 #include "display/QRNDisplay.h"
 #include "display/library.h"
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/user.h"
 
 namespace {
 
@@ -225,6 +226,23 @@ TEST_F(PanelCosts, AnIdlePanelRunsNoTimers) {
   for (int i = 0; i < 20; ++i) panel->Items().AddAction("", ddtypeMenu);
   panel->LayoutControls(false);
   panel->realise();
+  EXPECT_EQ(platform.clock().runningTimers(), 0);
+}
+
+TEST_F(PanelCosts, OfAThousandActionButtonsOnlyTheOneUnderTheMouseRunsATimer) {
+  for (int i = 0; i < 1000; ++i) panel->Items().AddAction("", ddtypeMethod);
+  panel->LayoutControls(false);
+  panel->realise();
+  EXPECT_EQ(platform.clock().runningTimers(), 0);
+  headless::User user(platform, *panel);
+  for (const std::int32_t position : {1, 2, 3}) {
+    user.hovers(static_cast<clsQRNAction&>(*panel->Items().Item(Variant(position))).Control());
+    EXPECT_GE(platform.clock().runningTimers(), 1);
+    platform.clock().advance(std::chrono::milliseconds(70));
+    EXPECT_EQ(platform.clock().runningTimers(), 1);
+  }
+  user.movesTo({399, 299});
+  platform.clock().advance(std::chrono::milliseconds(70));
   EXPECT_EQ(platform.clock().runningTimers(), 0);
 }
 
