@@ -61,7 +61,8 @@ int main(int argc, char** argv) {
   Options options;
   CLI::App app("Shows the panels of a device description (EDD text, IEC 61804-3).");
   app.add_option("FILE", options.file, "the device description")->required();
-  app.add_option("--language", options.language, "language of labels and help texts, en or de; numbers and dates follow it");
+  app.add_option("--language", options.language,
+                 "language of labels and help texts, en or de; numbers and dates follow it");
   app.add_flag("--list", options.list, "print the panels as text");
   app.add_option("--replay", options.replay,
                  "play a script of user actions without a display and print the events");
