@@ -23,8 +23,8 @@ enum ErrorNumber : std::int32_t {
   kObjectRequired = 424,
   kCannotCreateObject = 429,
   kKeyAlreadyUsed = 457,
-  kControlNotFound = 730,
   kControlNameUsed = 727,
+  kControlNotFound = 730,
 };
 
 /// A failure that a caller can see: what() is the description.

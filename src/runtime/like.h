@@ -10,8 +10,7 @@ namespace qrn {
 /// A text pattern, read once: ? for one character, * for any number of them, # for a digit, [abc], [a-z] and
 /// [!a-z] for one character in or not in a list. Characters are code points and their case counts; broken
 /// bytes are U+FFFD. Within a list a '-' at either end stands for itself, and so does every other character
-/// that means something outside;
-/// [] is as good as not there, and [!] matches an exclamation mark.
+/// that means something outside; [] is as good as not there, and [!] matches an exclamation mark.
 class LikePattern {
  public:
   /// Error 93 for a list without its ']' and for a range that runs backwards.

@@ -15,6 +15,7 @@ namespace {
 constexpr std::string_view kTo = "..";
 
 bool charactersAllowed(std::string_view s, std::string_view charSet) {
+  if (s.empty()) return true;  // whatever the list is like
   const LikePattern allowed("[" + std::string(charSet) + "]");
   for (std::size_t at = 0; at < s.size();) {
     const std::size_t start = at;

@@ -198,12 +198,22 @@ TEST_F(AnArrayRow, WithoutElementsHasAnErrorInsteadOfAValue) {
   EXPECT_EQ(row().ValueText(), "");
 }
 
-TEST_F(AnArrayRow, KeepsItsCurrentIndexWhenAnElementIsRefused) {
+TEST_F(AnArrayRow, TurnsToAnElementThatItThenRefusesToStore) {
   row().SetArraySize(3);
   row().SetArrayValue(1, Variant("b"));
   EXPECT_EQ(errorOf([&] { row().SetArrayValue(2, Variant(Null())); }), 94);
-  EXPECT_EQ(row().CurrentArrayValueIndex(), 1);
-  EXPECT_EQ(row().Value(), Variant("b"));
+  EXPECT_EQ(row().CurrentArrayValueIndex(), 2);
+  EXPECT_EQ(row().ArrayValue(1), Variant("b"));
+  EXPECT_EQ(row().ArrayValue(2), kEmpty);
+}
+
+TEST_F(AnArrayRow, IsPaintedAgainWithANewElement) {
+  row().SetArraySize(3);
+  row().realise();
+  auto& shown = static_cast<headless::HeadlessPeer&>(*row().peer());
+  shown.invalidated.clear();
+  row().SetArrayValue(1, Variant("b"));
+  EXPECT_FALSE(shown.invalidated.empty());
 }
 
 TEST_F(AnArrayRow, KeepsItsArrayThroughOtherTypes) {

@@ -278,5 +278,24 @@ TEST_F(RowNotifications, MayBeTheEndOfTheRow) {
   }
 }
 
+TEST_F(RowNotifications, OfAnElementMayBeTheEndOfTheRow) {
+  auto row = host::create<QRNEdit>(site);
+  row->SetValueType(qrnTypeArray);
+  row->SetArraySize(2);
+  site.on("Value", [&](host::UserControl&) { row.reset(); });
+  row->SetArrayValue(0, Variant(1));
+  EXPECT_EQ(row, nullptr);
+}
+
+TEST_F(RowNotifications, OfAnElementMayFailWithoutLosingIt) {
+  auto row = host::create<QRNEdit>(site);
+  row->SetValueType(qrnTypeArray);
+  row->SetArraySize(3);
+  site.on("Value", [&](host::UserControl&) { raiseRunTimeError(kInvalidProcedureCall); });
+  EXPECT_EQ(errorOf([&] { row->SetArrayValue(2, Variant("c")); }), 5);
+  EXPECT_EQ(row->CurrentArrayValueIndex(), 2);
+  EXPECT_EQ(row->Value(), Variant("c"));
+}
+
 }  // namespace
 }  // namespace qrn::test

@@ -1,4 +1,6 @@
 // Values at the edges of what an editor can show and read back, for whole rows.
+#include <limits>
+
 #include "row_fixture.h"
 
 namespace qrn::test {
@@ -106,6 +108,62 @@ TEST_F(ARowAtTheEdge, DoesNotTakeAGermanDayThatDoesNotExistForANumber) {
   type("29.2.1900");
   EXPECT_EQ(row().Value(), Variant(Null()));
   EXPECT_EQ(row().ValueError(), qrnErrorTypeMismatch);
+}
+
+TEST_F(ARowAtTheEdge, TakesATextOfAProgramWithTheOtherSeparatorLikeATypedOne) {
+  setCurrentLocale(deDE());
+  useType(qrnTypeDouble);
+  row().SetValue(Variant("3.5"));
+  EXPECT_EQ(textBox().Text(), "3,5");
+  EXPECT_EQ(row().Value(), Variant(3.5));
+  EXPECT_FALSE(row().ValueChanged());
+}
+
+TEST_F(ARowAtTheEdge, LeavesTheGroupsThatAFormatMakes) {
+  setCurrentLocale(deDE());
+  useType(qrnTypeDouble);
+  row().SetValueFormat("#,##0.0");
+  row().SetValue(Variant(1234.5));
+  EXPECT_EQ(textBox().Text(), "1.234,5");
+  EXPECT_EQ(row().Value(), Variant(1234.5));
+}
+
+TEST_F(ARowAtTheEdge, ShowsAHexadecimalDateUnchanged) {
+  useType(qrnTypeHexadecimal);
+  row().SetValue(Variant(Date{255}));
+  EXPECT_EQ(textBox().Text(), "FF");
+  EXPECT_FALSE(row().ValueChanged());
+}
+
+TEST_F(ARowAtTheEdge, CanNotTellAChangeOfATextThatNoLongHolds) {
+  useType(qrnTypeHexadecimal);
+  row().SetValue(Variant(-1));
+  EXPECT_EQ(textBox().Text(), "FFFFFFFF");
+  EXPECT_FALSE(row().ValueChanged());
+}
+
+TEST_F(ARowAtTheEdge, TakesAnEmptyTextWhateverItsCharacters) {
+  useType(qrnTypeString);
+  row().SetValueCharSet("z-a");
+  row().SetValue(Variant(""));
+  EXPECT_EQ(row().Value(), Variant(""));
+  EXPECT_EQ(row().ValueError(), qrnErrorNone);
+  type("a");
+  EXPECT_EQ(row().ValueError(), qrnErrorUnknown);
+}
+
+TEST_F(ARowAtTheEdge, ShowsInfinityInEveryKindOfNumberButReadsItBackInADoubleOnly) {
+  const Variant infinity(std::numeric_limits<double>::infinity());
+  for (const qrnValueType valueType :
+       {qrnTypeInteger, qrnTypeLong, qrnTypeDecimal, qrnTypeDate, qrnTypeCurrency}) {
+    useType(valueType);
+    row().SetValue(infinity);
+    EXPECT_EQ(textBox().Text(), "IEEE#: +INFINITE") << valueType;
+    EXPECT_NE(row().Value(), infinity) << valueType;
+  }
+  EXPECT_EQ(row().ValueError(), qrnErrorTypeMismatch) << "no amount of money";
+  useType(qrnTypeDecimal);
+  EXPECT_EQ(row().Value(), Variant(0.0)) << "what Val makes of the text";
 }
 
 }  // namespace
