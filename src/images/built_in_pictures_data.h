@@ -1,6 +1,6 @@
 // Made by tools/make_pictures from assets/pictures; change those and run it again.
-// sources 49997ae2ab8ee5c6f2bf4114c9e8438558a071ba643abc20ac321e9eec156c4c
-// table 43f5e4c00358c4ff3aa037f4de178a2a1eaf0f18039d79d5c3f1724ea4279075
+// sources 01bd684273a3090e1a97265bb82e589cbd42ad824e36ba1357ff1806c4734b70
+// table eb5d6b8e3b33a47c447640956c0ce50fb4e89b0ff460145a588797a8c952d318
 #pragma once
 
 #include <array>
@@ -1415,112 +1415,112 @@ inline constexpr std::string_view kError3x =
 
 // Triangle with a question mark: out of specification.
 inline constexpr std::uint32_t kRangeErrorColors[] = {
-    0x00000000, 0xFFFFCF2E, 0xFF8A5D00, 0xFF3A2600, 0xFD8A5D00, 0xFE8A5D00, 0x03AA5500, 0xFFFECE2E,
-    0xFF614709, 0xFF755A0E, 0xFF8A5E00, 0x02808000, 0x0D896200, 0xEF8A5D00, 0xFFFECE2D, 0x06805500,
-    0x328A5C00, 0x91895D00, 0xFFC29B20, 0xC08A5D00, 0x608A6000, 0xF5AE7F0E, 0xFFE0B122, 0xFF987716,
-    0x79895D00, 0xD88A5D00, 0x488A5C00, 0xA68A5E00, 0xFF4E3705, 0x1F8C5A00, 0xFF866712, 0xFFB08B1C,
-    0xFF9B6D06, 0xFFD1A21C, 0xFFECC02A, 0xF2A27509, 0xCA946604, 0xB38A5D00, 0xFABB8D13, 0x858A5E00,
-    0xFFA48119, 0xFFA6790B, 0x6E8B5F02, 0x558A5D00, 0x3D8A5C00, 0xE38A5D00, 0xFFB28410, 0xFFC29416,
-    0xFF442F02, 0x9A906303, 0x288C6000, 0xFF6A4F0B, 0xFFB9931E, 0xFF573E07, 0xCF8A5C00, 0x168B5D00,
-    0xFFF5C52A, 0xFFD8AE25, 0xFF926503, 0xFF8E6E14, 0xE98F6102, 0xF6B48611, 0xF68A5D00, 0xFFE8B925,
-    0xC88A5D00, 0xFFCFA623, 0x9F8A5D00, 0xD0916202, 0x7F8F6002, 0xF38F6102, 0x678B5E00, 0xAD8B5D00,
-    0xFFD8A91F, 0xFF7B5D0F, 0x4E895C00, 0xB98A5C00, 0x8B8A5E00, 0xFFAA861A, 0xFFAC7E0D, 0xFFC89A18,
-    0xFFC8A021, 0xFFE2B727, 0xFFB88A12, 0xF4A97B0D, 0x978A5D00, 0xE88A5D00, 0x5A8B5E00, 0xFF6F530C,
-    0x38895B00, 0x748A5C00,
+    0x00000000, 0xFFE5383B, 0xFF8C1116, 0xFFFFFFFF, 0xFD8C1116, 0xFE8C1116, 0x03AA0000, 0xFF8D1217,
+    0xFFE4373A, 0xFFF7C3C4, 0xFFFAD7D8, 0x02800000, 0x0D891414, 0xEF8C1116, 0xFFE4383B, 0x0680002B,
+    0x328A0F14, 0x918D1217, 0xFFEE7E80, 0xC08B1117, 0xFFB92429, 0x608D1015, 0xFFEA5C5E, 0xFFF3A0A1,
+    0xF4A61C21, 0x788C1115, 0xD88C1116, 0xFFCF2E32, 0xA68C1116, 0xFFFCEBEB, 0x488E1215, 0xFFE74A4D,
+    0x1F8C1019, 0xFFF08F91, 0xFFF5B3B4, 0xFFEC6C6E, 0xFF9C181C, 0xFFAC1F23, 0xCB931319, 0xB38C1115,
+    0xFFC42A2D, 0x558D1215, 0x858C1115, 0xE38C1116, 0x6E8D1317, 0xFFDA3337, 0xFFFBE1E2, 0xFFFEF5F5,
+    0x3D8A1115, 0xF39D191E, 0x288C1313, 0xFFF8CCCD, 0xFFE64143, 0xFFED7577, 0xFFF4AAAB, 0x168B0C17,
+    0x9E8C1217, 0xFFEF8889, 0xFFE85254, 0xEA901418, 0xCF8C1116, 0xFAB12226, 0xF6AC1F23, 0xFF95151A,
+    0xFFA51C21, 0xFFF19697, 0xF68C1116, 0xC88C1116, 0x7F911218, 0xAD8C1216, 0x4E8D1017, 0xFFF6BDBE,
+    0x678D1116, 0x978C1116, 0xB98D1116, 0xFFB32226, 0x9A921419, 0xEE911218, 0x5B8C1116, 0x8B8B1116,
+    0xFFD43034, 0xFFDF3539, 0xFFBE272B, 0xFFF9D3D3, 0xFFFADCDC, 0xFFC92B2F, 0xFFE74548, 0xFFF29B9D,
+    0xFFF3A5A7, 0xFFFCE6E6,
 };
 inline constexpr std::string_view kRangeError1x =
-    "......1VV1......"
-    ".....e&KK&e....."
-    ".....sH##Hs....."
-    "....n6u##u6n...."
-    "....*H####^*...."
-    "...n69MZZM96n..."
-    "...O^qbUUbq^O..."
-    "..n693D[5b<9)k.."
-    "..wt###|bAG#t~.."
-    ".k)9###AUG##G)k."
-    ".(t##########7(."
-    "k)G####bb####G)k"
-    "(7#####bb#####7("
-    "I,############,I"
-    "s)aaaaaaaaaaaa){";
+    "......1;;1......"
+    ".....eK776e....."
+    ".....tV##Vt....."
+    "....n5z##z5n...."
+    "....,V####w,...."
+    "...n5@$SS$@5n..."
+    "...QwZbTTbZwQ..."
+    "..n<@u340bF@<k.."
+    "..xw###XbBD#wx.."
+    ".k<@###BTD##@lk."
+    ".(w##########8(."
+    "k%R####bb####R%k"
+    "(8#####bb#####8("
+    "K`############`K"
+    "=laaaaaaaaaaaal=";
 inline constexpr std::string_view kRangeError2x =
-    "..............B**B.............."
-    ".............{8aa8{............."
-    "............ycaSSacy............"
-    "...........k`aT##Ta`k..........."
-    "...........waN###fNaw..........."
-    "..........klau####ualk.........."
-    "..........LaN######NaL.........."
-    ".........1lau######[a81........."
-    ".........;a=########=a;........."
-    "........18i9########9i81........"
-    "........paS##$C|XC@##Sap........"
-    ".......18a9#Cbbbbbb-f9a8B......."
-    "......._aS#Dbbbbbbbb<#Sa_......."
-    "......B8aG#XbbbZZbbbg#GacB......"
-    "......%a]##Xggv##hbbU##Sa%......"
-    ".....WcaG######fvbbbg##GacW....."
-    ".....za]######$gbbbbD###]az....."
-    "....WcaG######gbbbbC####2aco...."
-    "....+a]#######gbbbvf#####]a+...."
-    "...oda2#######gbbg#######24do..."
-    "...JaT####################TaJ..."
-    "..od42####################24a}.."
-    "..:aT#########bbbb#########Ta:.."
-    ".Qa42#########bbbb#########24aQ."
-    ".ra>##########bbbb##########Tar."
-    "oa42##########bbbb##########24ao"
-    "~a]##########################]a~"
-    ";aT2########################2]a;"
-    "QdaaaaaaaaaaaaaaaaaaaaaaaaaaaadQ"
-    ".PrlaaaaaaaaaaaaaaaaaaaaaaaalrP.";
+    "..............E,,E.............."
+    ".............=%aa%=............."
+    "............CcaJJacC............"
+    "...........k5as##sa5k..........."
+    "...........xaI###mIa(..........."
+    "..........klaz####zalk.........."
+    "..........Oa!######!aO.........."
+    ".........1laz######za%1........."
+    ".........>a!########!a>........."
+    "........1%a@########@a%1........"
+    "........paJ##HGXXGH##!ap........"
+    ".......1%a@#Gbbbbbb+#@a%E......."
+    ".......-aJ#3bbbbbbbbF#Ja-......."
+    "......E%aR#^bbbSSbbbi#RfcE......"
+    "......2aJ##Xiiv##hbbT##Ja2......"
+    ".....WcfR#######|bbb^##RfcW....."
+    ".....Aa:######H_bbbb3###:aA....."
+    "....WcfR######ibbbbG####Rfco...."
+    "....)a:#######ibbb|######:a)...."
+    "...odfR#######ibbi#######[fdo..."
+    "...La:####################:aL..."
+    "..odf[####################[fao.."
+    "../as#########bbbb#########sa/.."
+    ".Uaf[#########bbbb#########[9aU."
+    ".ras##########bbbb##########sa&."
+    "oa9[##########bbbb##########[9ao"
+    "xa:##########################:aQ"
+    ">a:[########################[:a>"
+    "UdaaaaaaaaaaaaaaaaaaaaaaaaaaaadU"
+    ".N&laaaaaaaaaaaaaaaaaaaaaaaalrN.";
 inline constexpr std::string_view kRangeError3x =
     "......................eWWe......................"
-    "....................n~laal~n...................."
-    "...................k:aaaaaark..................."
-    "..................jJaaaEEaaaJj.................."
-    "..................waai>ff>iaaw.................."
-    ".................B8aaT####Taa8B................."
-    "................._aaNm####mNaa_................."
-    "................B8aau######uaacB................"
-    "................%aaN########Naa%................"
-    "...............Wcaau########uaacW..............."
-    "...............zaa=##########=aaz..............."
-    "..............Wcaa9##########9iaco.............."
-    "..............+aa=############=aa+.............."
-    ".............odai9############9aado............."
-    ".............JaaS##############SaaJ............."
-    "............odaaG###GDvCCvD9###GaaaQ............"
-    "............:aaS##25bbbbbbbbCG##Saa:............"
-    "...........QaaaG#2Xbbbbbbbbbbg2#GaaaQ..........."
-    "...........raa]##5bbbbbbbbbbbbC##]aar..........."
-    "..........yaaaG#2UbbbbbbbbbbbbbG#2aaay.........."
-    "..........!aa]##qbbbbbAXXAbbbbbY##]aa!.........."
-    "........./aaa2##MbbbbU2##fUbbbbM##24aa/........."
-    ".........0aaT###G33333###DbbbbbY###Taa0j........"
-    "........Paa42##########2vbbbbbb9###24aaP........"
-    ".......j0aaT##########qZbbbbbbX#####Taaxe......."
-    ".......{aa42#########5bbbbbbbU9#####24aa{......."
-    "......exaaT##########hbbbbbbU@#######Taaxe......"
-    "......saa42##########hbbbbbA3########24aas......"
-    ".....nRaa>###########hbbbbg2##########>aaRn....."
-    ".....Oaa42###########hbbbbh###########f4aa*....."
-    "....nRaa>##############################>aa`n...."
-    "....~aa4f##############################fEaa~...."
-    "...k`aaF################################Faa`k..."
-    "...waaEf#############bbbbbb#############fEaaw..."
-    "..klaaF##############bbbbbb##############Faalk.."
-    "..(aaEf##############bbbbbb##############mEaa(.."
-    ".klaa,###############bbbbbb###############Faal1."
-    ".LaaEm###############bbbbbb###############mEaaL."
-    "e`aa,################bbbbbb################,aa`j"
-    "oaa4f######################################f4aao"
-    "{aaS########################################SaaP"
-    "/aaE9f####################################f9Eaa/"
-    "klaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa8k"
-    ".{caaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaac{."
-    "..o%R8aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa8R%o..";
+    "....................nxlaalxn...................."
+    "...................k/aaaaaark..................."
+    "..................jLaaa99aaaLj.................."
+    "..................xaaasmmsaaax.................."
+    ".................E%aas####saa%E................."
+    ".................-aaIg####gIaa-................."
+    "................E%aaz######zaacE................"
+    "................2aa!########!aa2................"
+    "...............Wcaaz########zaacW..............."
+    "...............Aaa!##########!aaA..............."
+    "..............Wcaa@##########@aaco.............."
+    "..............)aa!############!aa).............."
+    ".............odaa@############@aado............."
+    ".............LaaJ##############JaaL............."
+    "............odafR###D3|GGv34###RfaaU............"
+    "............/aaJ##Y0bbbbbbbbG{##Jaa/............"
+    "...........UaafR#Y^bbbbbbbbbb_{#RfaaU..........."
+    "...........raaJ##0bbbbbbbbbbbbG##Jaa&..........."
+    "..........CaafR#{TbbbbbbbbbbbbbD#RfaaC.........."
+    "..........&aa:##ZbbbbbBXXBbbbbbq##:aa&.........."
+    ".........*aafR##FbbbbTY###Tbbbb$##[faa*........."
+    ".........6aa:###Duuuuu###3bbbbbq###:aa6j........"
+    "........Naaf[##########Y}bbbbbb4###[faaN........"
+    ".......j6aas##########Z~bbbbbbX#####saaye......."
+    ".......=aaf[#########}bbbbbbbT4#####[faa=......."
+    "......eyaas##########hbbbbbbTH#######saaye......"
+    "......taaf[##########hbbbbbBu########[9aat......"
+    ".....nPaas###########hbbbb_{##########saaPn....."
+    ".....Qaa9[###########hbbbbh###########[9aa,....."
+    "....nPaa]##############################]aaPn...."
+    "....Qaa9[##############################g9aaQ...."
+    "...k5aa]################################]aalk..."
+    "...xaa9g#############bbbbbb#############g9aax..."
+    "..klaaM##############bbbbbb##############Maalk.."
+    "..(aa9g##############bbbbbb##############gIaa(.."
+    ".klaaM###############bbbbbb###############Maal1."
+    ".OaaIg###############bbbbbb###############gIaaO."
+    "ePaa`################bbbbbb################`aaPj"
+    "oaa9m######################################m9aao"
+    "=aaJ########################################JaaN"
+    "*aaI@g####################################g@Iaa*"
+    "klaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa%k"
+    ".=caaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaac=."
+    "..oAP%aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa%P2o..";
 
 // Entry field with a crossed disc: cannot be read.
 inline constexpr std::uint32_t kInputErrorColors[] = {
