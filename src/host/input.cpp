@@ -1,12 +1,33 @@
 #include "host/input.h"
 
 #include <algorithm>
+#include <exception>
 #include <vector>
 
 #include "host/command_button.h"
 #include "host/user_control.h"
 
 namespace qrn::host {
+
+/// Keeps the first error of several calls until the last one is through.
+class FirstError {
+ public:
+  template <class Call>
+  void of(Call&& call) {
+    try {
+      call();
+    } catch (...) {
+      if (!first_) first_ = std::current_exception();
+    }
+  }
+  void raise() const {
+    if (first_) std::rethrow_exception(first_);
+  }
+
+ private:
+  std::exception_ptr first_;
+};
+
 namespace {
 
 bool isInside(const Control* control, const Control& outer) {
@@ -46,41 +67,48 @@ Control* Input::hit(Point at) const {
   return found;
 }
 
+// A focus that has moved for some and not for others would stay so: the next move to the same control would
+// find nothing to do.
 void Input::setFocus(Control* control) {
   if (control == focus_ && (control || told_.empty())) return;
-  const WeakRef<Control> previous(focus_), root(root_);
+  const WeakRef<Control> previous(focus_);
   focus_ = control;
   if (control) lastFocus_ = WeakRef<Control>(control);
-  if (!tellLost()) return;
-  settlePeers(previous.get());
-  tellGot();
+  FirstError error;
+  if (tellLost(error)) {
+    settlePeers(previous.get());
+    tellGot(error);
+  }
+  error.raise();
 }
 
 // Each step looks at the focus anew: a listener may have sent it elsewhere, and by then told whom it had to.
-bool Input::tellLost() {
+bool Input::tellLost(FirstError& error) {
   const WeakRef<Control> root(root_);
   while (!told_.empty() && !(told_.back() && isInside(focus_, *told_.back()))) {
     const WeakRef<Control> lost = told_.back();
     told_.pop_back();
     if (!lost) continue;
-    lost->lostFocus();
+    error.of([&] { lost->lostFocus(); });
     if (!root) return false;
-    if (lost && !asUserControl(lost.get()) && lost->Parent()) lost->Parent()->childLostFocus(*lost);
+    if (lost && !asUserControl(lost.get()) && lost->Parent())
+      error.of([&] { lost->Parent()->childLostFocus(*lost); });
     if (!root) return false;
   }
   return true;
 }
 
-bool Input::tellGot() {
+bool Input::tellGot(FirstError& error) {
   const WeakRef<Control> root(root_);
   while (true) {
     const std::vector<Control*> chain = chainTo(focus_);
     if (told_.size() >= chain.size()) return true;
     const WeakRef<Control> got(chain[told_.size()]);
     told_.push_back(got);
-    got->gotFocus();
+    error.of([&] { got->gotFocus(); });
     if (!root) return false;
-    if (got && !asUserControl(got.get()) && got->Parent()) got->Parent()->childGotFocus(*got);
+    if (got && !asUserControl(got.get()) && got->Parent())
+      error.of([&] { got->Parent()->childGotFocus(*got); });
     if (!root) return false;
   }
 }

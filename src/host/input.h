@@ -9,6 +9,7 @@
 namespace qrn::host {
 
 class Control;
+class FirstError;
 class UserControl;
 
 enum class MouseButton : std::int16_t { Left = 1, Right = 2, Middle = 4 };
@@ -51,7 +52,8 @@ class Input {
   explicit Input(UserControl& root) : root_(&root) {}
 
   Control* focus() const { return focus_; }
-  /// Moves the focus, telling those that lose it before those that get it; null takes it off the surface.
+  /// Moves the focus, telling those that lose it before those that get it; null takes it off the surface. An
+  /// error of a listener is raised when everybody has been told, the first one if there are more.
   void setFocus(Control* control);
   /// To the next or previous tab stop; false at the end of the surface.
   bool moveFocus(bool forward);
@@ -88,8 +90,8 @@ class Input {
   void tellPlaceInside(const Control& moved);
 
  private:
-  bool tellLost();
-  bool tellGot();
+  bool tellLost(FirstError& error);
+  bool tellGot(FirstError& error);
   void settlePeers(Control* old);
 
   UserControl* root_;

@@ -188,6 +188,16 @@ TEST_F(Focus, MayDestroyTheSurface) {
   }
 }
 
+TEST_F(Focus, MovesOnThoughAListenerRaisesAnErrorWhichThenReachesTheCaller) {
+  for (const char* moment : {"a LostFocus", "row1 LostFocus", "row2 GotFocus", "c GotFocus"}) {
+    a.SetFocus();
+    heard();
+    when(moment, [] { raiseRunTimeError(kOverflow); });
+    EXPECT_EQ(errorOf([&] { c.SetFocus(); }), kOverflow) << moment;
+    EXPECT_EQ(heard(), (Heard{"a LostFocus", "row1 LostFocus", "row2 GotFocus", "c GotFocus"})) << moment;
+  }
+}
+
 TEST_F(Focus, MayRemoveAControlThatIsHiddenForIt) {
   a.SetFocus();
   when("a LostFocus", [&] { surface().controls().remove("row1"); });
@@ -315,6 +325,14 @@ TEST_F(Peers, FollowTheFocusThatAListenerSendsElsewhere) {
   EXPECT_FALSE(a.peer());
   EXPECT_FALSE(c.peer());
   EXPECT_TRUE(plain.peer());
+}
+
+TEST_F(Peers, FollowTheFocusThoughAListenerRaisesAnError) {
+  a.SetFocus();
+  when("a LostFocus", [] { raiseRunTimeError(kOverflow); });
+  EXPECT_EQ(errorOf([&] { c.SetFocus(); }), kOverflow);
+  EXPECT_FALSE(a.peer());
+  EXPECT_TRUE(c.peer());
 }
 
 TEST_F(Peers, AreToldOfTheirPlaceWhenTheirRowMovesOrTheAreaScrolls) {
