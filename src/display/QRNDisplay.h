@@ -245,7 +245,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void raiseItem(Event<std::int32_t&>& event, std::string_view name, const PanelItem& item);
   void itemGotFocus(const PanelItem& item);
   void bringIntoView(const host::Control& control);
-  void startEditCycle(std::int32_t index);
+  void startEditCycle(const PanelItem& item);
   void endEditCycle(std::int32_t index, bool changed);
   void passiveClick() { raise(Click, "Click"); }
   void toggleMaximized();

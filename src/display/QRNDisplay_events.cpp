@@ -26,14 +26,15 @@ void QRNDisplay::bringIntoView(const host::Control& control) {
   applyScroll();
 }
 
-void QRNDisplay::startEditCycle(std::int32_t index) {
+void QRNDisplay::startEditCycle(const PanelItem& item) {
   const WeakRef<host::Control> self(this);
-  if (editing_ && editIndex_ != index) endEditCycle(editIndex_, editChanged_);
-  if (!self || editing_) return;
+  if (editing_ && editIndex_ != item.position()) endEditCycle(editIndex_, editChanged_);
+  // Who heard of that end may have moved the item or removed it.
+  if (!self || editing_ || item.position() == 0) return;
   editing_ = true;
-  editIndex_ = index;
+  editIndex_ = item.position();
   editChanged_ = false;
-  raise(ParameterStartEdit, "ParameterStartEdit", index);
+  raiseItem(ParameterStartEdit, "ParameterStartEdit", item);
 }
 
 void QRNDisplay::endEditCycle(std::int32_t index, bool changed) {

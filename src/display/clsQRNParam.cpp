@@ -142,7 +142,7 @@ void clsQRNParam::controlEvent(std::string_view name, host::EventArgs arguments)
   else if (name == "Icon2Click")
     owner->raiseItem(owner->ParameterIcon2Click, "ParameterIcon2Click", *this);
   else if (name == "StartEdit")
-    owner->startEditCycle(position());
+    owner->startEditCycle(*this);
   else if (name == "EndEdit")
     owner->endEditCycle(position(), arguments[0].as<bool>());
   else if (name == "AppLostFocus")

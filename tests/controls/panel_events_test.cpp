@@ -329,6 +329,31 @@ TEST_F(PanelEvents, RemovingTheEditedItemLeavesTheEndToTheNextStart) {
   EXPECT_EQ(events(), (Events{"ParameterEndEdit(3, False)", "ParameterStartEdit(1)", "ItemGotFocus(1)"}));
 }
 
+TEST_F(PanelEvents, AStartCarriesThePositionThatTheEndBeforeItLeft) {
+  fill(3);
+  user->focuses(row(1));
+  items().Remove(Variant(1));  // nobody has ended that edit yet
+  startListening();
+  const auto connection = panel().ParameterEndEdit.connect(
+      [&](std::int32_t&, bool&) { items().AddParameter("First", qrnTypeString, Variant(1)); });
+  user->focuses(row(2));
+  EXPECT_EQ(row(3).hasFocus(), true);
+  const Events heard = events();
+  EXPECT_EQ(heard.back(), "ItemGotFocus(3)");
+  EXPECT_EQ(heard[heard.size() - 2], "ParameterStartEdit(3)");
+}
+
+TEST_F(PanelEvents, AnItemThatTheEndBeforeItRemovedStartsNoEdit) {
+  fill(3);
+  user->focuses(row(1));
+  items().Remove(Variant(1));
+  startListening();
+  const auto connection =
+      panel().ParameterEndEdit.connect([&](std::int32_t&, bool&) { items().RemoveAll(); });
+  user->focuses(row(2));
+  EXPECT_EQ(events(), (Events{"ParameterEndEdit(1, False)"}));
+}
+
 // ---- the panel's own ----
 
 TEST_F(PanelEvents, TheBackgroundTheTitleAndTheContainerAreClicked) {
