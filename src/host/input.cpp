@@ -130,7 +130,7 @@ bool Input::moveFocus(bool forward) {
 
 void Input::surfaceGotFocus() {
   if (focus_) return;
-  if (Control* last = lastFocus_.get(); last && last->shown() && last->acceptsFocus()) setFocus(last);
+  if (Control* last = lastFocus_.get()) last->SetFocus();
 }
 
 void Input::surfaceLostFocus() { setFocus(nullptr); }

@@ -265,6 +265,19 @@ TEST_F(Focus, ComesBackToWhereItWasWhenTheSurfaceGetsItAgain) {
   EXPECT_EQ(input().focus(), nullptr) << "nor to what is gone";
 }
 
+TEST_F(Focus, DoesNotComeBackToASurfaceThatIsDisabled) {
+  a.SetFocus();
+  input().surfaceLostFocus();
+  heard();
+  surface().SetEnabled(false);
+  input().surfaceGotFocus();
+  EXPECT_EQ(input().focus(), nullptr);
+  EXPECT_EQ(heard(), Heard{});
+  surface().SetEnabled(true);
+  input().surfaceGotFocus();
+  EXPECT_EQ(input().focus(), &a);
+}
+
 class Peers : public Focus {
  protected:
   Peers() { surface().realise(); }
