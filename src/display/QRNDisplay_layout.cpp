@@ -178,8 +178,9 @@ void QRNDisplay::applyScroll() { pbxContainer_.scrollTo(sbrVertical_.Value()); }
 
 bool QRNDisplay::wheel(double notches) {
   if (!sbrVertical_.Visible() || !sbrVertical_.Enabled()) return false;
-  const std::int32_t wished = sbrVertical_.Value() - scrollNumber(notches * sbrVertical_.SmallChange());
-  sbrVertical_.SetValue(std::clamp(wished, sbrVertical_.Min(), sbrVertical_.Max()));
+  // Into the range before it becomes a whole number: a turn may be longer than any content.
+  const double wished = sbrVertical_.Value() - notches * sbrVertical_.SmallChange();
+  sbrVertical_.SetValue(scrollNumber(std::clamp<double>(wished, sbrVertical_.Min(), sbrVertical_.Max())));
   applyScroll();
   return true;
 }

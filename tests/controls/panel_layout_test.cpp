@@ -290,6 +290,16 @@ TEST_F(PanelLayout, TheWheelScrollsByActionHeightsWithinTheRange) {
   EXPECT_EQ(panel().sbrVertical().Value(), 0);
 }
 
+TEST_F(PanelLayout, TheWheelGoesToTheEndHoweverFarItIsTurned) {
+  panel().SetMenuItemHeight(2000);
+  addRows(20);
+  panel().LayoutControls(false);
+  user->turnsWheel({100, 100}, -40);
+  EXPECT_EQ(panel().sbrVertical().Value(), panel().sbrVertical().Max());
+  user->turnsWheel({100, 100}, 1e12);
+  EXPECT_EQ(panel().sbrVertical().Value(), 0);
+}
+
 TEST_F(PanelLayout, TheWheelScrollsNoDisabledPanel) {
   addRows(20);
   panel().LayoutControls(false);
