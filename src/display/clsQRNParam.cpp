@@ -61,8 +61,10 @@ void clsQRNParam::SetControl(host::UserControl& control) {
 }
 
 void clsQRNParam::SetDefaultLayout(qrnValueType ParamType) {
+  const PanelItemPtr self = keepAlive();
+  // A type without an editor ends the edit of the row; who hears of it may remove the item.
+  Control().SetValueType(ParamType);
   QRNEdit& row = Control();
-  row.SetValueType(ParamType);
   row.SetIcon1Column(0);
   row.SetIcon2Column(4);
   row.SetIcon2ButtonMode(qrnButtonFlat);

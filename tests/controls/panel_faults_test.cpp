@@ -161,6 +161,16 @@ TEST_F(FaultsWhileAdding, AnErrorOfALayoutListenerLeavesTheItemInItsPlace) {
   EXPECT_EQ(row(1).Name(), "A");
 }
 
+TEST_F(FaultsWhileAdding, AnItemRemovedWhenItsNewTypeEndsItsEditHasNoControlLeftToLayOut) {
+  const auto item = addParameter("A");
+  panel().LayoutControls(false);
+  user->focuses(row(1));
+  const auto connection =
+      panel().ParameterEndEdit.connect([&](std::int32_t&, bool&) { items().RemoveAll(); });
+  EXPECT_EQ(raisedBy([&] { item->SetDefaultLayout(qrnTypeArray); }).number, kObjectNotInitialized);
+  EXPECT_EQ(items().Count(), 0);
+}
+
 TEST_F(FaultsWhileAdding, AnItemRemovedByTheStateThatItIsGivenKeepsTheState) {
   const auto item = addParameter("A");
   const auto connection =
