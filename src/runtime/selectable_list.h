@@ -22,6 +22,13 @@ class SelectableList {
   using Pointer = std::shared_ptr<T>;
   using Entry = typename KeyedList<Pointer>::Entry;
 
+  SelectableList() = default;
+  SelectableList(const SelectableList&) = delete;
+  SelectableList& operator=(const SelectableList&) = delete;
+  ~SelectableList() {
+    for (const Pointer& object : *this) object->entry_ = nullptr;
+  }
+
   std::int32_t count() const { return list_.count(); }
 
   /// Errors: 9 outside 1..count.

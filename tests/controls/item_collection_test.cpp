@@ -322,6 +322,21 @@ TEST_F(ItemCollection, OutlivesItsPanelWithoutReachingIt) {
   EXPECT_EQ(raised.description, "Object is not initialized.");
 }
 
+TEST_F(ItemCollection, AnItemThatOutlivesItsPanelIsInNoOtherOne) {
+  const auto item = addParameter("A");
+  const ButtonPtr button = panel().Buttons().AddButton("OK", "OK");
+  panel_.reset();
+  const auto other = host::create<QRNDisplay>(site);
+  other->Items().AddParameter("A", qrnTypeString);
+  other->Buttons().AddButton("OK", "OK");
+  EXPECT_EQ(raisedBy([&] { other->Items().GetIndexOf(Variant(item)); }).number, kObjectNotInCollection);
+  EXPECT_EQ(raisedBy([&] { other->Buttons().GetIndexOf(Variant(button)); }).number, kObjectNotInCollection);
+  other->Items().Remove(Variant(item));
+  other->Buttons().Remove(Variant(button));
+  EXPECT_EQ(other->Items().Count(), 1);
+  EXPECT_EQ(other->Buttons().Count(), 1);
+}
+
 TEST_F(ItemCollection, AHiddenReferenceKeepsNothingAliveAndKnowsWhenItsTargetHasGone) {
   clsHiddenRef<QRNDisplay> reference;
   EXPECT_EQ(reference.get(), nullptr);
