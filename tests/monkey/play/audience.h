@@ -1,0 +1,64 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "base/event.h"
+#include "display/QRNDisplay.h"
+
+namespace qrn::monkey {
+
+class Stage;
+
+/// What a listener does in the middle of an event, once.
+struct Deed {
+  std::size_t kind = 0;      // of meddling.h
+  std::uint32_t events = 0;  // how many events it lets pass first
+  std::uint32_t number = 0;  // what it picks with
+};
+
+/// Listens to every event of the panel: first it checks what the order of events promises, and then it may
+/// do something that the event was not prepared for.
+class Audience {
+ public:
+  explicit Audience(Stage& stage) : stage_(stage) {}
+
+  void sitsDown(QRNDisplay& panel);
+  void standsUp();
+
+  void prepare(const Deed& deed) { deeds_.push_back(deed); }
+  void heardOfSite() { meddle(0); }
+
+  // ---- what was heard in the present step ----
+  void stepBegins() { gotFocus_.clear(), lostFocus_.clear(), deedsBefore_ = deedsDone_; }
+  bool meddledInThisStep() const { return deedsDone_ != deedsBefore_; }
+  bool heardOfFocus(const PanelItem& item) const { return contains(gotFocus_, item); }
+  bool heardOfLostFocus(const PanelItem& item) const { return contains(lostFocus_, item); }
+
+ private:
+  template <class... Args>
+  void listen(Event<Args...>& event, std::string_view name);
+  void heard(std::string_view name, std::int32_t index);
+  void checkPosition(std::string_view name, std::int32_t index);
+  void checkEditCycle(std::string_view name, std::int32_t index);
+  void noteFocus(std::string_view name, std::int32_t index);
+  void meddle(std::int32_t index);
+  using Heard = std::vector<const PanelItem*>;
+  static bool contains(const Heard& heard, const PanelItem& item) {
+    return std::find(heard.begin(), heard.end(), &item) != heard.end();
+  }
+
+  Stage& stage_;
+  std::vector<Connection> connections_;
+  std::vector<Deed> deeds_;
+  std::int32_t editedIndex_ = 0;  // of the edit cycle that has begun and not ended; 0 for none
+  int deedsDone_ = 0;
+  int deedsBefore_ = 0;
+  Heard gotFocus_;
+  Heard lostFocus_;
+};
+
+}  // namespace qrn::monkey

@@ -1,0 +1,131 @@
+#include "meddling.h"
+
+#include <string_view>
+
+#include "actions.h"
+#include "diag/QRNErrors.h"
+#include "runtime/errors.h"
+#include "stage.h"
+
+namespace qrn::monkey {
+namespace {
+
+// What a deed finds in front of it.
+struct Scene {
+  Stage& stage;
+  std::int32_t index;  // the event's
+  std::uint32_t number;
+
+  QRNDisplay& panel() const { return *stage.panel(); }
+  clsQRNCollection& items() const { return stage.items(); }
+  PanelItemPtr itsItem() const {
+    return index >= 1 && index <= items().Count() ? items().Item(Variant(index)) : nullptr;
+  }
+  std::shared_ptr<clsQRNParam> itsParameter() const {
+    return std::dynamic_pointer_cast<clsQRNParam>(itsItem());
+  }
+  std::int32_t anyPosition() const {
+    return static_cast<std::int32_t>(number % static_cast<std::uint32_t>(items().Count())) + 1;
+  }
+  qrnValueType anyType() const { return static_cast<qrnValueType>(number % 13); }
+};
+
+struct NamedDeed {
+  std::string_view name;
+  void (*act)(const Scene&);
+};
+
+void removeItsItem(const Scene& at) {
+  if (at.itsItem()) at.items().Remove(Variant(at.index));
+}
+void removeAnItem(const Scene& at) {
+  if (at.items().Count() > 0) at.items().Remove(Variant(at.anyPosition()));
+}
+void insertBefore(const Scene& at) {
+  if (at.items().Count() < 30) at.items().AddParameter("", at.anyType(), Variant(at.index));
+}
+void lockItsRow(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->Control().SetLocked(true);
+}
+void makeReadOnly(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->SetParamState(qrnStateReadOnly);
+}
+void acceptTheValue(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->Control().SetValueChanged(false);
+}
+void setTheValue(const Scene& at) {
+  if (const auto parameter = at.itsParameter())
+    parameter->SetParamValue(Variant(static_cast<std::int32_t>(at.number % 100)));
+}
+void changeTheType(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->Control().SetValueType(at.anyType());
+}
+void hideItsItem(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->Control().SetVisible(false);
+}
+void hideItsValue(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->Control().SetValueVisible(false);
+}
+void disableItsItem(const Scene& at) {
+  if (const auto parameter = at.itsParameter()) parameter->Control().SetEnabled(false);
+}
+void focusAnItem(const Scene& at) {
+  if (at.items().Count() > 0) at.panel().SetItemFocus(Variant(at.anyPosition()));
+}
+void takeTheFocus(const Scene& at) { at.panel().input().setFocus(nullptr); }
+void layOut(const Scene& at) { at.panel().LayoutControls(at.number % 2 == 1); }
+void resize(const Scene& at) { at.panel().Move(0, 0, 100 + at.number % 400, 300); }
+void addAButton(const Scene& at) { at.panel().Buttons().AddButton("", "Button"); }
+void removeTheButtons(const Scene& at) { at.panel().Buttons().RemoveAll(); }
+void removeAll(const Scene& at) { at.items().RemoveAll(); }
+void loseTheSurface(const Scene& at) { at.stage.hands().close(); }
+void disableThePanel(const Scene& at) { at.panel().SetEnabled(false); }
+void raise(const Scene&) { RaiseError(kListenersError, "listener", kListenersText); }
+void closeThePanel(const Scene& at) { at.stage.close(); }
+
+constexpr NamedDeed kDeeds[] = {
+    {"removes its item", removeItsItem},
+    {"inserts an item before", insertBefore},
+    {"removes an item", removeAnItem},
+    {"locks its row", lockItsRow},
+    {"makes its row read-only", makeReadOnly},
+    {"accepts the value", acceptTheValue},
+    {"sets the value", setTheValue},
+    {"changes the value type", changeTheType},
+    {"hides its row", hideItsItem},
+    {"hides its value", hideItsValue},
+    {"disables its row", disableItsItem},
+    {"gives an item the focus", focusAnItem},
+    {"takes the focus away", takeTheFocus},
+    {"lays out", layOut},
+    {"resizes the panel", resize},
+    {"adds a footer button", addAButton},
+    {"removes the footer buttons", removeTheButtons},
+    {"removes all items", removeAll},
+    {"disables the panel", disableThePanel},
+    {"lets the surface go", loseTheSurface},
+    {"raises an error", raise},
+    {"closes the panel", closeThePanel},
+};
+
+void prepareDeed(Stage& stage, Numbers& numbers) {
+  const Deed deed{numbers.below(std::size(kDeeds)), static_cast<std::uint32_t>(numbers.below(6)),
+                  numbers.next() % 1000};
+  stage.note("the listener, after ", deed.events, " more events, ", kDeeds[deed.kind].name, " (", deed.number,
+             ")");
+  stage.audience().prepare(deed);
+}
+
+}  // namespace
+
+void doDeed(Stage& stage, const Deed& deed, std::int32_t index) {
+  stage.note("    in an event of ", index, " the listener ", kDeeds[deed.kind].name);
+  const Scene scene{stage, index, deed.number};
+  // A listener keeps the errors that it meets to itself, and raises those that it means to raise.
+  if (kDeeds[deed.kind].act == raise) raise(scene);
+  ignoringErrors([&] { kDeeds[deed.kind].act(scene); });
+}
+
+void addMeddling(Actions& to) { to.push_back({"PrepareDeed", 50, Actor::Host, prepareDeed}); }
+
+}  // namespace qrn::monkey

@@ -1,0 +1,145 @@
+#include "actions.h"
+#include "property_bags.h"
+#include "rules.h"
+#include "stage.h"
+#include "values.h"
+
+namespace qrn::monkey {
+namespace {
+
+Size anySize(Numbers& numbers) {
+  static const Size sizes[] = {{400, 300}, {600, 800}, {250, 120}, {90, 60}, {10, 10}, {400, 100}};
+  return numbers.oneOf(sizes);
+}
+
+void openPanel(Stage& stage, Numbers& numbers) {
+  const Size size = anySize(numbers);
+  const bool realised = !numbers.oneIn(5);
+  const std::size_t rows = numbers.below(16);
+  stage.note("a new panel of ", size.width, " by ", size.height, realised ? ", realised" : ", not realised",
+             ", with a row of each of the types 0 to ", rows, " - 1");
+  stage.open(size, realised);
+  for (std::size_t i = 0; i < rows; ++i) stage.items().AddParameter("", static_cast<qrnValueType>(i));
+  stage.panel()->LayoutControls(false);
+}
+
+void closePanel(Stage& stage, Numbers&) {
+  stage.note("the panel is destroyed");
+  stage.close();
+  const std::string left = stage.hands().leftBehind();
+  if (!left.empty()) stage.complain("a panel leaves nothing behind", left);
+}
+
+void realise(Stage& stage, Numbers&) {
+  stage.note("the panel gets a surface");
+  stage.hands().show(*stage.panel());
+}
+
+void loseSurface(Stage& stage, Numbers&) {
+  stage.note("the surface goes");
+  stage.hands().close();
+}
+
+void resize(Stage& stage, Numbers& numbers) {
+  const Size size = anySize(numbers);
+  stage.note("the window becomes ", size.width, " by ", size.height);
+  stage.hands().resize(size);
+}
+
+void setLength(Stage& stage, Numbers& numbers) {
+  using Set = void (QRNDisplay::*)(std::int32_t);
+  static const std::pair<const char*, Set> lengths[] = {
+      {"SetVerticalSpacing", &QRNDisplay::SetVerticalSpacing},
+      {"SetHorizontalSpacing", &QRNDisplay::SetHorizontalSpacing},
+      {"SetMenuItemHeight", &QRNDisplay::SetMenuItemHeight},
+      {"SetLeftMargin", &QRNDisplay::SetLeftMargin},
+      {"SetTopMargin", &QRNDisplay::SetTopMargin},
+      {"SetRightMargin", &QRNDisplay::SetRightMargin},
+      {"SetBottomMargin", &QRNDisplay::SetBottomMargin}};
+  const auto& [name, set] = numbers.oneOf(lengths);
+  const std::int32_t length = anyLength(numbers);
+  stage.note(name, "(", length, ")");
+  (stage.panel()->*set)(length);
+}
+
+void setFlag(Stage& stage, Numbers& numbers) {
+  using Set = void (*)(QRNDisplay&, bool);
+  static const std::pair<const char*, Set> flags[] = {
+      {"SetMaximized", [](QRNDisplay& one, bool on) { one.SetMaximized(on); }},
+      {"SetActive", [](QRNDisplay& one, bool on) { one.SetActive(on); }},
+      {"SetIconCloseHidden", [](QRNDisplay& one, bool on) { one.SetIconCloseHidden(on); }},
+      {"SetIconMaxRstHidden", [](QRNDisplay& one, bool on) { one.SetIconMaxRstHidden(on); }},
+      {"SetEnabled", [](QRNDisplay& one, bool on) { one.SetEnabled(on); }},
+      {"SetEnabled", [](QRNDisplay& one, bool) { one.SetEnabled(true); }},
+      {"SetRedraw", [](QRNDisplay& one, bool on) { one.SetRedraw(on); }},
+      {"SetVisible", [](QRNDisplay& one, bool on) { one.SetVisible(on); }},
+      {"SetVisible", [](QRNDisplay& one, bool) { one.SetVisible(true); }},
+      {"SetTallContent", [](QRNDisplay& one, bool on) { one.SetTallContent(on); }}};
+  const auto& [name, set] = numbers.oneOf(flags);
+  const bool on = anyFlag(numbers);
+  stage.note(name, "(", shown(on), ")");
+  set(*stage.panel(), on);
+}
+
+void setTitle(Stage& stage, Numbers& numbers) {
+  QRNDisplay& panel = *stage.panel();
+  const std::string text = anyCaption(numbers);
+  const auto style = static_cast<qrnTitleStyle>(numbers.below(3));
+  switch (numbers.below(6)) {
+    case 0: stage.note("SetTitle(", quoted(text), ")"), panel.SetTitle(text); break;
+    case 1: stage.note("SetTitleStyle(", style, ")"), panel.SetTitleStyle(style); break;
+    case 2: stage.note("SetCloseButtonToolTip(…)"), panel.SetCloseButtonToolTip(text); break;
+    case 3: stage.note("SetMaxButtonToolTip(…)"), panel.SetMaxButtonToolTip(text); break;
+    case 4: stage.note("SetFont(…)"), panel.SetFont(anyFont(numbers)); break;
+    default: {
+      const auto edge = static_cast<qrnEdgeType>(numbers.below(5));
+      stage.note("SetBorderStyle(", edge, ")"), panel.SetBorderStyle(edge);
+    }
+  }
+}
+
+void changeImages(Stage& stage, Numbers& numbers) {
+  QRNDisplay& panel = *stage.panel();
+  const auto id = static_cast<qrnImageId>(numbers.below(20));
+  switch (numbers.below(3)) {
+    case 0:
+      stage.note("ImageList().SetImage(", id, ", …)");
+      panel.ImageList().SetImage(id, anyPicture(numbers));
+      break;
+    case 1: {
+      stage.note("SetImageList(a list that goes at once)");
+      const auto list = host::create<QRNImageList>(stage.hands().site());
+      panel.SetImageList(list.get());
+      break;
+    }
+    default: stage.note("SetImageList(nullptr)"), panel.SetImageList(nullptr); break;
+  }
+}
+
+void savePanel(Stage& stage, Numbers&) {
+  stage.note("writeProperties(bag), and a new panel from it");
+  checkRestored<QRNDisplay>(stage, *stage.panel());
+}
+
+void paint(Stage& stage, Numbers&) {
+  stage.note("the panel is painted");
+  stage.hands().paint();
+}
+
+}  // namespace
+
+void addPanelCalls(Actions& to) {
+  to.push_back({"OpenPanel", 6, Actor::Host, openPanel});
+  to.push_back({"ClosePanel", 3, Actor::Host, closePanel});
+  to.push_back({"Realise", 8, Actor::Host, realise});
+  to.push_back({"LoseSurface", 4, Actor::Host, loseSurface});
+  to.push_back({"Resize", 12, Actor::Host, resize});
+  to.push_back({"SetLength", 12, Actor::Host, setLength});
+  to.push_back({"SetFlag", 15, Actor::Host, setFlag});
+  to.push_back({"SetTitle", 8, Actor::Host, setTitle});
+  to.push_back({"ChangeImages", 6, Actor::Host, changeImages});
+  to.push_back({"SavePanel", 3, Actor::Host, savePanel});
+  to.push_back({"Paint", 12, Actor::User, paint});
+}
+
+}  // namespace qrn::monkey
