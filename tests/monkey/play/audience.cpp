@@ -63,6 +63,18 @@ void Audience::standsUp() {
   editedIndex_ = 0;
 }
 
+void Audience::leansOver(QRNEdit& row, std::int32_t position) {
+  const auto then = [this, position](auto&&...) { meddle(position); };
+  connections_.push_back(row.StartEdit.connect(then));
+  connections_.push_back(row.EndEdit.connect(then));
+  connections_.push_back(row.Change.connect(then));
+  connections_.push_back(row.StatusChange.connect(then));
+  connections_.push_back(row.KeyDown.connect(then));
+  connections_.push_back(row.Click.connect(then));
+  connections_.push_back(row.Icon2Click.connect(then));
+  connections_.push_back(row.ObjectEvent.connect(then));
+}
+
 void Audience::heard(std::string_view name, std::int32_t index) {
   checkPosition(name, index);
   checkEditCycle(name, index);

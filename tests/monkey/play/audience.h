@@ -28,6 +28,8 @@ class Audience {
 
   void sitsDown(QRNDisplay& panel);
   void standsUp();
+  /// Listens to one row as well, in front of the panel and behind it.
+  void leansOver(QRNEdit& row, std::int32_t position);
 
   void prepare(const Deed& deed) { deeds_.push_back(deed); }
   void heardOfSite() { meddle(0); }

@@ -116,6 +116,14 @@ void prepareDeed(Stage& stage, Numbers& numbers) {
   stage.audience().prepare(deed);
 }
 
+void listenToRow(Stage& stage, Numbers& numbers) {
+  const auto parameter = stage.anyParameter(numbers);
+  if (!parameter) return;
+  const std::int32_t position = stage.items().GetIndexOf(Variant(parameter));
+  stage.note("the listener listens to row(", position, ") too");
+  stage.audience().leansOver(parameter->Control(), position);
+}
+
 }  // namespace
 
 void doDeed(Stage& stage, const Deed& deed, std::int32_t index) {
@@ -126,6 +134,9 @@ void doDeed(Stage& stage, const Deed& deed, std::int32_t index) {
   ignoringErrors([&] { kDeeds[deed.kind].act(scene); });
 }
 
-void addMeddling(Actions& to) { to.push_back({"PrepareDeed", 50, Actor::Host, prepareDeed}); }
+void addMeddling(Actions& to) {
+  to.push_back({"PrepareDeed", 50, Actor::Host, prepareDeed});
+  to.push_back({"ListenToRow", 12, Actor::Host, listenToRow});
+}
 
 }  // namespace qrn::monkey
