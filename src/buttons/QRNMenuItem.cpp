@@ -11,8 +11,6 @@ constexpr std::int32_t kHoverInterval = 70;  // milliseconds
 
 QRNMenuItem::QRNMenuItem() { Move(0, 0, 120, 28); }
 
-QRNMenuItem::~QRNMenuItem() = default;
-
 void QRNMenuItem::initProperties() {
   UserControl::initProperties();
   icon_ = std::make_shared<host::Picture>(std::vector<host::Picture::Bitmap>());
@@ -47,26 +45,26 @@ void QRNMenuItem::SetForeColor(host::Color color) {
 void QRNMenuItem::SetEnabled(bool enabled) {
   if (enabled == Enabled()) return;
   UserControl::SetEnabled(enabled);
-  propertyChanged("Enabled");
-  invalidate();
+  changed("Enabled");
 }
 
 void QRNMenuItem::SetButtonMode(qrnButtonMode mode) {
   if (mode == buttonMode_) return;
-  if (mode == qrnbuttonNone) mouseOver_ = spacePressed_ = hasFocus_ = keyboardFocus_ = false;
+  if (mode == qrnbuttonNone) {
+    mouseOver_ = spacePressed_ = hasFocus_ = keyboardFocus_ = false;
+    stopHitTracking();
+  }
   store(buttonMode_, mode, "ButtonMode");
 }
 
 void QRNMenuItem::SetIcon(host::PicturePtr icon) {
   icon_ = std::move(icon);
-  propertyChanged("Icon");
-  invalidate();
+  changed("Icon");
 }
 
 void QRNMenuItem::SetIconDisabled(host::PicturePtr icon) {
   iconDisabled_ = std::move(icon);
-  propertyChanged("IconDisabled");
-  invalidate();
+  changed("IconDisabled");
 }
 
 bool QRNMenuItem::Redraw() const {
@@ -86,37 +84,25 @@ void QRNMenuItem::switchRedraw(bool redraw) {
 
 // ---- the menu ----
 
-ContextMenu& QRNMenuItem::menu() {
-  if (!menu_) menu_ = std::make_unique<ContextMenu>();
-  return *menu_;
-}
-
-void QRNMenuItem::RemoveMenuItem(std::int32_t Index) {
-  if (menu_) menu_->remove(Index);
-}
-
-void QRNMenuItem::RemoveMenu() {
-  if (menu_) menu_->removeAll();
-}
-
 void QRNMenuItem::showContextMenu(bool atKeyboard) {
-  if (!menu_) return;
-  const Point at = atKeyboard ? menuPositionForKeyboard(*this) : platform().cursor();
-  const WeakRef<QRNMenuItem> self(this);
-  const auto chosen = menu_->show(platform(), at);
-  if (!chosen || !self) return;
-  auto index = static_cast<std::int16_t>(*chosen);
-  raise(MenuClick, "MenuClick", index);
+  if (auto chosen = menu_.show(*this, atKeyboard)) raise(MenuClick, "MenuClick", *chosen);
 }
 
 // ---- mouse and keyboard ----
+
+// What went down on a button that is hidden comes up on another one.
+void QRNMenuItem::release() {
+  leftButtonDown_ = rightButtonDown_ = spacePressed_ = mouseOver_ = false;
+  stopHitTracking();
+}
 
 bool QRNMenuItem::isCursorOver() {
   const Point at = platform().cursor();
   const auto half = [](double value) {
     return static_cast<std::intptr_t>(static_cast<std::uint16_t>(static_cast<std::int32_t>(value)));
   };
-  return windowMessage({host::wm::NcHitTest, 0, half(at.y) << 16 | half(at.x)}) == host::kHitClient;
+  const host::Message test{host::wm::NcHitTest, 0, half(at.y) << 16 | half(at.x)};
+  return platform().windows().send(window(), test) == host::kHitClient;
 }
 
 bool QRNMenuItem::doClick() {
@@ -161,17 +147,16 @@ void QRNMenuItem::mouseDown(host::MouseButton button, std::int16_t, Point) {
 void QRNMenuItem::mouseMove(std::int16_t, std::int16_t, Point at) {
   if (!takesClicks()) return;
   mouseOver_ = contains(at);
-  if (mouseOver_ && !tmrHit_)
+  if (mouseOver_ == (tmrHit_ != nullptr)) return;
+  if (mouseOver_)
     startHitTracking();
-  else if (!mouseOver_ && tmrHit_)
-    stopHitTracking();
   else
-    return;
+    stopHitTracking();
   invalidate();
 }
 
 void QRNMenuItem::mouseUp(host::MouseButton button, std::int16_t, Point at) {
-  const bool inside = contains(at);
+  const bool inside = contains(at) && shown();
   if (button == host::MouseButton::Left && leftButtonDown_) {
     leftButtonDown_ = false;
     if (!takesClicks()) return;
@@ -212,7 +197,8 @@ void QRNMenuItem::keyPress(std::int16_t& keyAscii) {
 
 void QRNMenuItem::gotFocus() {
   if (takesClicks() && Visible()) {
-    keyboardFocus_ = !(leftButtonDown_ || rightButtonDown_);
+    // The press that brings the focus is told only after it.
+    keyboardFocus_ = !input().holds(host::MouseButton::Left) && !input().holds(host::MouseButton::Right);
     hasFocus_ = true;
     invalidate();
   }

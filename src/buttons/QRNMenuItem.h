@@ -15,7 +15,6 @@ namespace qrn {
 class QRNMenuItem final : public host::UserControl {
  public:
   QRNMenuItem();
-  ~QRNMenuItem() override;
   std::string_view typeName() const override { return "QRNMenuItem"; }
   const host::ClassTable& classTable() const override;
 
@@ -37,7 +36,6 @@ class QRNMenuItem final : public host::UserControl {
   /// 0 none, 1 a single line.
   std::int16_t BorderStyle() const { return borderStyle_; }
   void SetBorderStyle(std::int16_t style) { store(borderStyle_, style, "BorderStyle"); }
-  using Control::Enabled;
   void SetEnabled(bool enabled) override;
   qrnButtonMode ButtonMode() const { return buttonMode_; }
   void SetButtonMode(qrnButtonMode mode);
@@ -55,12 +53,12 @@ class QRNMenuItem final : public host::UserControl {
   void SetRedraw(bool redraw);
 
   std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption) {
-    return menu().add(MenuCaption);
+    return menu_.add(MenuCaption);
   }
   /// 0 is the template of all others. Null for an index where nothing is loaded.
-  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) { return menu().entry(Index); }
-  void RemoveMenuItem(std::int32_t Index);
-  void RemoveMenu();
+  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) { return menu_.entry(Index); }
+  void RemoveMenuItem(std::int32_t Index) { menu_.remove(Index); }
+  void RemoveMenu() { menu_.removeAll(); }
 
   Event<> Click;
   Event<std::int16_t&> MenuClick;
@@ -88,6 +86,7 @@ class QRNMenuItem final : public host::UserControl {
   void initProperties() override;
   void resize() override { invalidate(); }
   void show() override;
+  void hide() override { release(); }
   void terminate() override;
   void gotFocus() override;
   void lostFocus() override;
@@ -99,8 +98,10 @@ class QRNMenuItem final : public host::UserControl {
   void store(T& field, const T& value, std::string_view key) {
     if (field == value) return;
     field = value;
-    propertyChanged(key);
-    invalidate();
+    changed(key);
+  }
+  void changed(std::string_view key) {
+    if (propertyChanged(key)) invalidate();
   }
 
   bool takesClicks() const { return buttonMode_ != qrnbuttonNone; }
@@ -108,9 +109,10 @@ class QRNMenuItem final : public host::UserControl {
   bool doClick();
   void startHitTracking();
   void stopHitTracking();
-  ContextMenu& menu();
+  void release();
   void showContextMenu(bool atKeyboard);
 
+  void paintInside(host::Surface& surface, Size size);
   const host::PicturePtr& shownIcon() const;
   double paintIcon(host::Surface& surface, Size size, double lineHeight);
   void paintCaption(host::Surface& surface, Size size, double iconSlotWidth, double lineHeight);
@@ -120,7 +122,7 @@ class QRNMenuItem final : public host::UserControl {
   std::string caption_ = "Menu";
   host::PicturePtr icon_;
   host::PicturePtr iconDisabled_;
-  std::unique_ptr<ContextMenu> menu_;
+  ContextMenu menu_;
   host::Timer* tmrHit_ = nullptr;
   Connection tick_;
   std::int32_t alignment_ = 0;

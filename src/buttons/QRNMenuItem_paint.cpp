@@ -1,10 +1,10 @@
 #include <algorithm>
-#include <cmath>
 #include <vector>
 
 #include "base/text.h"
 #include "buttons/QRNMenuItem.h"
 #include "host/alignment.h"
+#include "runtime/rounding.h"
 
 namespace qrn {
 namespace {
@@ -73,12 +73,20 @@ const host::PicturePtr& QRNMenuItem::shownIcon() const {
 }
 
 void QRNMenuItem::paint(host::Surface& surface, Size size) {
-  surface.fill({0, 0, size.width, size.height}, BackColor());
+  const Rect whole{0, 0, size.width, size.height};
+  surface.fill(whole, BackColor());
+  if (borderStyle_ != 1) return paintInside(surface, size);
+  // The border belongs to the window; everything else lies within.
+  surface.frame(whole, host::systemColor(host::SystemColor::WindowFrame));
+  surface.enter({1, 1, size.width - 2, size.height - 2});
+  paintInside(surface, {size.width - 2, size.height - 2});
+  surface.leave();
+}
+
+void QRNMenuItem::paintInside(host::Surface& surface, Size size) {
   const double lineHeight = TextHeight("|");
   const double iconSlotWidth = paintIcon(surface, size, lineHeight);
   paintCaption(surface, size, iconSlotWidth, lineHeight);
-  if (borderStyle_ == 1)
-    surface.frame({0, 0, size.width, size.height}, host::systemColor(host::SystemColor::WindowFrame));
   paintFrame(surface, size);
   paintFocus(surface, size);
 }
@@ -120,7 +128,7 @@ void QRNMenuItem::paintCaption(host::Surface& surface, Size size, double iconSlo
     start = (size.width - besideIcon) / 2 + (iconLeft ? besideIcon : 0);
     factor = 0.5;
   }
-  start = std::nearbyint(start);
+  start = roundHalfEven(start);
   const host::Color color = Enabled() ? ForeColor() : host::kGrayText;
   for (const std::string_view line : lines) {
     const double x = factor <= 0 ? start : start - factor * TextWidth(line);

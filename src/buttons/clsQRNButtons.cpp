@@ -30,10 +30,10 @@ ButtonsPanel& clsQRNButtons::panel() const {
 
 ButtonPtr clsQRNButtons::AddButton(std::string_view CtlName, const std::string& Caption,
                                    const std::optional<Variant>& AtPosition) {
-  startTimer();  // an earlier removal may have taken it
   const std::string key = CtlName.empty() ? buttons_.freeKey("Button") : std::string(CtlName);
   ButtonPtr button = makeButton(key, AtPosition);
   if (!button) return nullptr;
+  startTimer();  // an earlier removal may have taken it
   const WeakRef<ButtonsPanel> guard(panel_.get());
   button->SetDefaultLayout(Caption);
   if (guard) guard->buttonsChanged();
@@ -94,14 +94,17 @@ void clsQRNButtons::removeAt(std::int32_t position) {
 // ---- buttons that click themselves ----
 
 void clsQRNButtons::startTimer() {
-  if (controls().find(kTimer)) return;
-  auto& timer = static_cast<host::Timer&>(controls().add("VB.Timer", kTimer, panel().control()));
+  if (timer_) return;
+  std::string name(kTimer);
+  while (controls().find(name)) name += '_';  // an item may bear that name
+  auto& timer = static_cast<host::Timer&>(controls().add("VB.Timer", name, panel().control()));
+  timer_ = WeakRef<host::Timer>(&timer);
   ticks_ = timer.Tick.connect([this, &timer] { tick(timer.Interval()); });
   timer.SetInterval(kFireInterval);
 }
 
 void clsQRNButtons::stopTimer() {
-  if (controls().find(kTimer)) controls().remove(kTimer);
+  if (timer_) controls().remove(std::string(timer_->Name()));
 }
 
 void clsQRNButtons::tick(std::int32_t passed) {

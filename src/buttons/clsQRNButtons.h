@@ -38,7 +38,7 @@ class clsQRNButtons final : public Object {
   /// Over the buttons in their order.
   using Iterator = SelectableList<clsQRNButton>::Iterator;
   Iterator begin() const { return buttons_.begin(); }
-  Iterator end() const { return buttons_.end(); }
+  std::default_sentinel_t end() const { return {}; }
 
  private:
   ButtonsPanel& panel() const;
@@ -51,6 +51,7 @@ class clsQRNButtons final : public Object {
 
   clsHiddenRef<ButtonsPanel> panel_;
   SelectableList<clsQRNButton> buttons_;
+  WeakRef<host::Timer> timer_;
   Connection ticks_;
 };
 

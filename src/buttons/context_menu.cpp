@@ -1,41 +1,54 @@
 #include "buttons/context_menu.h"
 
-#include <cmath>
-#include <cstdint>
+#include "runtime/rounding.h"
 
 namespace qrn {
+namespace {
+
+Point keyboardPosition(const host::UserControl& control) {
+  const auto third = [](double length) {
+    return static_cast<double>(static_cast<std::int32_t>(roundHalfEven(length)) / 3);
+  };
+  const Point unit = control.pixelsPerUnit();
+  return control.platform().screenPosition(control.root()) + control.onSurface().topLeft() +
+         Point{third(control.ScaleWidth()) * unit.x, third(2 * control.ScaleHeight()) * unit.y};
+}
+
+}  // namespace
+
+host::PopupMenu& ContextMenu::menu() {
+  if (!menu_) {
+    menu_ = std::make_unique<host::PopupMenu>();
+    menu_->load(0, "&Help");
+  }
+  return *menu_;
+}
 
 std::shared_ptr<host::MenuEntry> ContextMenu::add(std::string_view caption) {
-  const int index = menu_.count();
-  if (!menu_.load(index, caption)) return nullptr;
-  auto added = menu_.entry(index), model = menu_.entry(0);
+  const int index = menu().count();
+  if (!menu().load(index, caption)) return nullptr;
+  auto added = entry(index), model = entry(0);
   added->SetEnabled(model->Enabled());
   added->SetChecked(model->Checked());
   return added;
 }
 
 void ContextMenu::remove(int index) {
-  if (index > 0) menu_.unload(index);
+  if (menu_ && index > 0) menu_->unload(index);
 }
 
 void ContextMenu::removeAll() {
-  for (int index = menu_.count() - 1; index >= 1; --index) remove(index);
+  for (int index = menu_ ? menu_->count() - 1 : 0; index >= 1; --index) remove(index);
 }
 
-std::optional<int> ContextMenu::show(host::Platform& platform, Point screen) {
-  if (menu_.count() < 2) return std::nullopt;
-  menu_.entry(0)->SetVisible(false);
-  return menu_.popUp(platform, screen);
-}
-
-Point menuPositionForKeyboard(const host::UserControl& control) {
-  const auto third = [](double length) {
-    const std::int32_t whole = static_cast<std::int32_t>(std::nearbyint(length)) / 3;
-    return static_cast<double>(whole);
-  };
-  const Point unit = control.pixelsPerUnit();
-  return control.platform().screenPosition(control.root()) + control.onSurface().topLeft() +
-         Point{third(control.ScaleWidth()) * unit.x, third(2 * control.ScaleHeight()) * unit.y};
+std::optional<std::int16_t> ContextMenu::show(host::UserControl& control, bool atKeyboard) {
+  if (!menu_ || menu_->count() < 2) return std::nullopt;
+  menu_->entry(0)->SetVisible(false);
+  const WeakRef<host::Control> guard(&control);
+  host::Platform& platform = control.platform();
+  const auto chosen = menu_->popUp(platform, atKeyboard ? keyboardPosition(control) : platform.cursor());
+  if (!chosen || !guard) return std::nullopt;
+  return static_cast<std::int16_t>(*chosen);
 }
 
 }  // namespace qrn

@@ -104,8 +104,11 @@ void QRNDisplay::clickOn(host::Control& child) {
   }
 }
 
-void QRNDisplay::childDoubleClick(host::Control& child, Point) {
-  if (&child == &lblTitle_) toggleMaximized();
+void QRNDisplay::childDoubleClick(host::Control& child, Point at) {
+  if (&child == &lblTitle_)
+    toggleMaximized();
+  else
+    UserControl::childDoubleClick(child, at);
 }
 
 // The caller decides what becomes of it; the panel itself stays as it is.

@@ -40,7 +40,7 @@ class clsQRNCollection final : public Object {
   /// Over the items in their order.
   using Iterator = SelectableList<PanelItem>::Iterator;
   Iterator begin() const { return items_.begin(); }
-  Iterator end() const { return items_.end(); }
+  std::default_sentinel_t end() const { return {}; }
 
  private:
   friend class QRNDisplay;

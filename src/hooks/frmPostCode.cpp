@@ -19,6 +19,7 @@ void frmPostCode::PostThisCode(host::CallTarget& Target, const Variant& Code) {
 
 void frmPostCode::CancelPostCode() {
   target_.set(nullptr);
+  code_ = {};
   // Keys that are still on their way find no window.
   form_.reset();
 }

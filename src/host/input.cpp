@@ -135,31 +135,50 @@ void Input::surfaceGotFocus() {
 
 void Input::surfaceLostFocus() { setFocus(nullptr); }
 
-Control* Input::mouseDown(MouseButton button, std::int16_t shiftState, Point at) {
+// The focus comes before the press is told.
+template <class Tell>
+Control* Input::press(MouseButton button, Point at, Tell&& tell) {
   if (!root_->Enabled()) return nullptr;
   const WeakRef<Control> root(root_);
-  Control* target = hit(at);
-  capture_ = target;
-  const WeakRef<Control> guard(target);
-  if (Control* wish = target->acceptsFocus() ? target : nullptr) {
-    setFocus(wish);
-    if (!root || !guard) return nullptr;
+  // One that is down already has come up where nobody could see it.
+  if (holds(button)) releaseAll();
+  held_ = static_cast<std::int16_t>(held_ | static_cast<std::int16_t>(button));
+  if (!capture_) capture_ = hit(at);
+  const WeakRef<Control> target(capture_);
+  if (target->acceptsFocus()) {
+    setFocus(target.get());
+    if (!root || !target) return nullptr;
     if (target->peer()) {
       // The widget follows the mouse from here on, and nobody reports the release.
-      capture_ = nullptr;
-      return target;
+      releaseAll();
+      return target.get();
     }
   }
-  const Point local = target->fromSurface(at);
-  if (auto* user = asUserControl(target))
-    user->mouseDown(button, shiftState, local);
-  else if (target->Parent())
-    target->Parent()->childMouseDown(*target, button, shiftState, local);
+  tell(*target, target->fromSurface(at));
   return nullptr;
+}
+
+Control* Input::mouseDown(MouseButton button, std::int16_t shiftState, Point at) {
+  return press(button, at, [&](Control& target, Point local) {
+    if (auto* user = asUserControl(&target))
+      user->mouseDown(button, shiftState, local);
+    else if (target.Parent())
+      target.Parent()->childMouseDown(target, button, shiftState, local);
+  });
+}
+
+void Input::doubleClick(Point at) {
+  press(MouseButton::Left, at, [](Control& target, Point local) {
+    if (auto* user = asUserControl(&target))
+      user->doubleClick(local);
+    else if (target.Parent())
+      target.Parent()->childDoubleClick(target, local);
+  });
 }
 
 void Input::mouseMove(std::int16_t buttons, std::int16_t shiftState, Point at) {
   if (!root_->Enabled() && !capture_) return;
+  if (buttons == 0) releaseAll();
   Control* target = capture_ ? capture_ : hit(at);
   const Point local = target->fromSurface(at);
   if (auto* user = asUserControl(target))
@@ -171,22 +190,13 @@ void Input::mouseMove(std::int16_t buttons, std::int16_t shiftState, Point at) {
 void Input::mouseUp(MouseButton button, std::int16_t shiftState, Point at) {
   if (!root_->Enabled() && !capture_) return;
   Control* target = capture_ ? capture_ : hit(at);
-  capture_ = nullptr;
+  held_ = static_cast<std::int16_t>(held_ & ~static_cast<std::int16_t>(button));
+  if (held_ == 0) capture_ = nullptr;
   const Point local = target->fromSurface(at);
   if (auto* user = asUserControl(target))
     user->mouseUp(button, shiftState, local);
   else if (target->Parent())
     target->Parent()->childMouseUp(*target, button, shiftState, local);
-}
-
-void Input::doubleClick(Point at) {
-  if (!root_->Enabled()) return;
-  Control* target = hit(at);
-  const Point local = target->fromSurface(at);
-  if (auto* user = asUserControl(target))
-    user->doubleClick(local);
-  else if (target->Parent())
-    target->Parent()->childDoubleClick(*target, local);
 }
 
 bool Input::wheel(Point at, double notches) {
@@ -218,13 +228,18 @@ bool Input::wantsKey(std::int16_t keyCode) const {
   return (wanted & asked) != 0;
 }
 
+Control* Input::keyReceiver() const {
+  Control* const target = focus_ ? focus_ : root_;
+  return target->enabledUpToSurface() ? target : nullptr;
+}
+
 bool Input::keyDown(std::int16_t keyCode, std::int16_t shiftState) {
   const WeakRef<Control> root(root_);
-  Control* target = focus_ ? focus_ : root_;
+  Control* const target = keyReceiver();
   const std::int16_t given = keyCode;
   if (auto* user = asUserControl(target))
     user->keyDown(keyCode, shiftState);
-  else if (target->Parent())
+  else if (target && target->Parent())
     target->Parent()->childKeyDown(*target, keyCode, shiftState);
   if (!root || keyCode == 0) return true;
   if (given == key::Tab && (shiftState & (shift::Control | shift::Alt)) == 0) {
@@ -234,7 +249,8 @@ bool Input::keyDown(std::int16_t keyCode, std::int16_t shiftState) {
 }
 
 bool Input::keyUp(std::int16_t keyCode, std::int16_t shiftState) {
-  Control* target = focus_ ? focus_ : root_;
+  Control* const target = keyReceiver();
+  if (!target) return false;
   if (auto* user = asUserControl(target))
     user->keyUp(keyCode, shiftState);
   else if (target->Parent())
@@ -243,7 +259,8 @@ bool Input::keyUp(std::int16_t keyCode, std::int16_t shiftState) {
 }
 
 std::int16_t Input::keyPress(std::int16_t keyAscii) {
-  Control* target = focus_ ? focus_ : root_;
+  Control* const target = keyReceiver();
+  if (!target) return 0;
   if (auto* user = asUserControl(target))
     user->keyPress(keyAscii);
   else if (target->Parent())

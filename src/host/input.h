@@ -65,7 +65,10 @@ class Input {
   Control* mouseDown(MouseButton button, std::int16_t shift, Point at);
   void mouseMove(std::int16_t buttons, std::int16_t shift, Point at);
   void mouseUp(MouseButton button, std::int16_t shift, Point at);
+  /// The second press of a double click with the left button; the release follows.
   void doubleClick(Point at);
+  /// Whether the button is down since a press on this surface.
+  bool holds(MouseButton button) const { return (held_ & static_cast<std::int16_t>(button)) != 0; }
   /// Notches away from the user are positive. Answers whether somebody scrolled.
   bool wheel(Point at, double notches);
 
@@ -93,10 +96,19 @@ class Input {
   bool tellLost(FirstError& error);
   bool tellGot(FirstError& error);
   void settlePeers(Control* old);
+  void releaseAll() {
+    capture_ = nullptr;
+    held_ = 0;
+  }
+  template <class Tell>
+  Control* press(MouseButton button, Point at, Tell&& tell);
+  /// The focused control, or the surface itself; null for one that can't be used.
+  Control* keyReceiver() const;
 
   UserControl* root_;
   Control* focus_ = nullptr;
-  Control* capture_ = nullptr;
+  Control* capture_ = nullptr;  // has the mouse from the first press to the last release
+  std::int16_t held_ = 0;       // the mouse buttons that are down
   WeakRef<Control> lastFocus_;
   // Those who have been told that they got the focus and not that they lost it, the outermost first. While
   // listeners run it may lag behind focus_; it also survives the end of the focused control.

@@ -59,7 +59,9 @@ class UserControl : public ContainerControl, public Site {
   virtual void mouseDown(MouseButton, std::int16_t /*shift*/, Point) {}
   virtual void mouseMove(std::int16_t /*buttons*/, std::int16_t /*shift*/, Point) {}
   virtual void mouseUp(MouseButton, std::int16_t /*shift*/, Point) {}
-  virtual void doubleClick(Point) {}
+  /// The second press of a quick double click; the release follows. A press like any other unless told
+  /// otherwise.
+  virtual void doubleClick(Point at) { mouseDown(MouseButton::Left, 0, at); }
   virtual bool wheel(double /*notches*/) { return false; }
   virtual void keyDown(std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}
   virtual void keyPress(std::int16_t& /*keyAscii*/) {}
@@ -76,7 +78,7 @@ class UserControl : public ContainerControl, public Site {
   virtual void childMouseDown(Control&, MouseButton, std::int16_t /*shift*/, Point) {}
   virtual void childMouseMove(Control&, std::int16_t /*buttons*/, std::int16_t /*shift*/, Point) {}
   virtual void childMouseUp(Control&, MouseButton, std::int16_t /*shift*/, Point) {}
-  virtual void childDoubleClick(Control&, Point) {}
+  virtual void childDoubleClick(Control& child, Point at) { childMouseDown(child, MouseButton::Left, 0, at); }
   virtual void childKeyDown(Control&, std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}
   virtual void childKeyPress(Control&, std::int16_t& /*keyAscii*/) {}
   virtual void childKeyUp(Control&, std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}

@@ -1,5 +1,7 @@
 #include "images/QRNImageList.h"
 
+#include <limits>
+
 #include "host/class_table.h"
 #include "images/built_in_pictures.h"
 #include "runtime/errors.h"
@@ -12,7 +14,7 @@ QRNImageList::QRNImageList() {
   }
 }
 
-const host::PicturePtr& QRNImageList::Image(qrnImageId ImageId) const {
+host::PicturePtr QRNImageList::Image(qrnImageId ImageId) const {
   const auto found = images_.find(ImageId);
   if (found == images_.end()) raiseRunTimeError(kControlArrayElementMissing, typeName());
   return found->second;
@@ -26,7 +28,10 @@ void QRNImageList::SetImage(qrnImageId ImageId, host::PicturePtr picture) {
 }
 
 qrnImageId QRNImageList::GetNextFreeImageIndex() const {
-  return static_cast<qrnImageId>(images_.empty() ? 0 : images_.rbegin()->first + 1);
+  if (images_.empty()) return qrnImageBlank;
+  const std::int32_t highest = images_.rbegin()->first;
+  if (highest == std::numeric_limits<std::int32_t>::max()) raiseRunTimeError(kOverflow, typeName());
+  return static_cast<qrnImageId>(highest + 1);
 }
 
 void QRNImageList::paint(host::Surface& surface, Size size) {

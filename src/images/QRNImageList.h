@@ -17,10 +17,10 @@ class QRNImageList final : public host::UserControl {
   const host::ClassTable& classTable() const override;
 
   /// Errors: 340 for a number that has no picture.
-  const host::PicturePtr& Image(qrnImageId ImageId) const;
+  host::PicturePtr Image(qrnImageId ImageId) const;
   /// Takes a picture's place, adds one, or with none gives the number free again.
   void SetImage(qrnImageId ImageId, host::PicturePtr picture);
-  /// One more than the highest number in use.
+  /// One more than the highest number in use. Errors: 6 when that is the highest there can be.
   qrnImageId GetNextFreeImageIndex() const;
 
   void paint(host::Surface& surface, Size size) override;

@@ -232,24 +232,4 @@ void QRNEdit::SetSelection(std::int32_t StartSel, std::int32_t SelLength) {
   if (txtValue_) txtValue_->select(StartSel, SelLength);
 }
 
-// ---- the menu ----
-
-std::shared_ptr<host::MenuEntry> QRNEdit::AddMenuItem(std::string_view MenuCaption) {
-  if (!menu_) menu_ = std::make_unique<ContextMenu>();
-  return menu_->add(MenuCaption);
-}
-
-std::shared_ptr<host::MenuEntry> QRNEdit::GetMenuItem(std::int32_t Index) const {
-  if (!menu_) return ContextMenu().entry(Index);
-  return menu_->entry(Index);
-}
-
-void QRNEdit::RemoveMenuItem(std::int32_t Index) {
-  if (menu_) menu_->remove(Index);
-}
-
-void QRNEdit::RemoveMenu() {
-  if (menu_) menu_->removeAll();
-}
-
 }  // namespace qrn

@@ -183,10 +183,12 @@ class QRNEdit final : public host::UserControl {
   std::int32_t GetMinBruttoWidth() const;
 
   void SetSelection(std::int32_t StartSel, std::int32_t SelLength);
-  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption);
-  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) const;
-  void RemoveMenuItem(std::int32_t Index);
-  void RemoveMenu();
+  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption) {
+    return menu_.add(MenuCaption);
+  }
+  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) { return menu_.entry(Index); }
+  void RemoveMenuItem(std::int32_t Index) { menu_.remove(Index); }
+  void RemoveMenu() { menu_.removeAll(); }
 
   Event<> Change;
   Event<std::int16_t&> ItemCheck;
@@ -361,7 +363,7 @@ class QRNEdit final : public host::UserControl {
   Variant displayBaseline_;
   ValueSettings settings_;
   std::unique_ptr<clsQRNArray> array_;
-  std::unique_ptr<ContextMenu> menu_;
+  ContextMenu menu_;
   std::unique_ptr<struct IconTracking> tracking_;
   std::unique_ptr<struct FocusWatch> focusWatch_;   // while the row has the focus
   std::unique_ptr<clsQRNEDitSubClass> editorHook_;  // from the moment on when the editor has a window

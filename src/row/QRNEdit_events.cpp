@@ -102,7 +102,7 @@ void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
 }
 
 void QRNEdit::childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
-  if (keyCode == host::key::F10 && shift == host::shift::Shift && menu_) {
+  if (keyCode == host::key::F10 && shift == host::shift::Shift) {
     keyCode = 0;
     showContextMenu(true);
     return;
@@ -178,13 +178,8 @@ void QRNEdit::clickOn(host::Control& child) {
 }
 
 void QRNEdit::showContextMenu(bool atKeyboard) {
-  if (!menu_ || !Enabled()) return;
-  const Point at = atKeyboard ? menuPositionForKeyboard(*this) : platform().cursor();
-  const WeakRef<QRNEdit> self(this);
-  const auto chosen = menu_->show(platform(), at);
-  if (!chosen || !self) return;
-  auto index = static_cast<std::int16_t>(*chosen);
-  raise(MenuClick, "MenuClick", index);
+  if (!Enabled()) return;
+  if (auto chosen = menu_.show(*this, atKeyboard)) raise(MenuClick, "MenuClick", *chosen);
 }
 
 // ---- icons ----

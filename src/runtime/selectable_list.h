@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -75,23 +76,25 @@ class SelectableList {
     return list_.take(position);
   }
 
-  /// Over the objects in their order.
+  /// Over the objects in their order, by position: whoever removes some on the way skips those that move up.
   class Iterator {
    public:
-    using Inner = decltype(std::declval<const KeyedList<Pointer>&>().begin());
-    explicit Iterator(Inner at) : at_(at) {}
-    const Pointer& operator*() const { return (*at_)->value; }
+    explicit Iterator(const KeyedList<Pointer>& list) : list_(&list) {}
+    Pointer operator*() const { return list_->at(position_).value; }
     Iterator& operator++() {
-      ++at_;
+      ++position_;
       return *this;
     }
-    friend bool operator==(const Iterator&, const Iterator&) = default;
+    friend bool operator==(const Iterator& one, std::default_sentinel_t) {
+      return one.position_ > one.list_->count();
+    }
 
    private:
-    Inner at_;
+    const KeyedList<Pointer>* list_;
+    std::int32_t position_ = 1;
   };
-  Iterator begin() const { return Iterator(list_.begin()); }
-  Iterator end() const { return Iterator(list_.end()); }
+  Iterator begin() const { return Iterator(list_); }
+  std::default_sentinel_t end() const { return {}; }
 
  private:
   KeyedList<Pointer> list_;

@@ -117,6 +117,14 @@ TEST_F(ContextMenuOfAButton, RemovingAllOfNothingDoesNothing) {
   EXPECT_EQ(captionsShown(), (Events{"no menu"}));
 }
 
+TEST_F(ContextMenuOfAButton, RemovingAllReachesAsFarAsThereAreEntries) {
+  button().AddMenuItem("Trend");
+  button().AddMenuItem("Print");
+  button().RemoveMenuItem(1);
+  button().RemoveMenu();
+  EXPECT_NE(button().GetMenuItem(2), nullptr) << "two are loaded, so only 1 is looked for";
+}
+
 // ---- popping up ----
 
 TEST_F(ContextMenuOfAButton, PopsUpAtTheMouseWithoutTheTemplate) {

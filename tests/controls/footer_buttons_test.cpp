@@ -239,5 +239,16 @@ TEST_F(FooterFaults, AnErrorOfALayoutListenerReachesTheCallerAndLeavesTheButton)
   EXPECT_EQ(events(), (Events{"ButtonClick(2)"}));
 }
 
+TEST_F(FooterButtons, MayBeRemovedWhileTheyAreVisitedOneByOne) {
+  for (const char* name : {"A", "B", "C", "D"}) add(name);
+  Names visited;
+  for (const ButtonPtr& one : buttons()) {
+    visited.push_back(one->Control().Name());
+    if (visited.size() == 1) buttons().Remove(Variant("A"));
+    if (visited.size() == 2) buttons().RemoveAll();
+  }
+  EXPECT_EQ(visited, (Names{"A", "C"}));
+}
+
 }  // namespace
 }  // namespace qrn::test

@@ -30,6 +30,26 @@ TEST_F(FireTimer, RemovingTheLastOneByKeyOrPositionTakesTheTimer) {
   }
 }
 
+TEST_F(FireTimer, LeavesAnItemOfItsNameAlone) {
+  addParameter("tmrButtonFire");
+  add("A")->SetAutoFireDelay(100);
+  startListening();
+  pass(100ms);
+  deliver();
+  EXPECT_EQ(events(), (Events{"ButtonClick(1)"}));
+  buttons().Remove(Variant("A"));
+  EXPECT_EQ(items().Count(), 1);
+  EXPECT_EQ(row(1).Name(), "tmrButtonFire");
+  EXPECT_EQ(platform.clock().runningTimers(), 0);
+}
+
+TEST_F(FireTimer, DoesNotStartForAButtonThatCouldNotBeMade) {
+  add("A");
+  buttons().Remove(Variant("A"));
+  EXPECT_EQ(add("lblTitle"), nullptr);
+  EXPECT_EQ(platform.clock().runningTimers(), 0);
+}
+
 TEST_F(FireTimer, RemovingTheLastOneAsAnObjectLeavesTheTimer) {
   const ButtonPtr a = add("A");
   buttons().Remove(Variant(a));

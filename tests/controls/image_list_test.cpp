@@ -53,6 +53,17 @@ TEST_F(ImageList, ANumberWithoutPictureRaisesTheErrorOfAMissingElement) {
   }
 }
 
+TEST_F(ImageList, BehindTheHighestNumberThereIsThereIsNoneLeft) {
+  list->SetImage(number(2147483647), builtInPicture(qrnImageInfo));
+  EXPECT_EQ(raisedBy([&] { list->GetNextFreeImageIndex(); }).number, kOverflow);
+}
+
+TEST_F(ImageList, APictureThatSomebodyKeepsOutlivesItsPlace) {
+  const host::PicturePtr kept = list->Image(qrnImageFolder);
+  list->SetImage(qrnImageFolder, nullptr);
+  EXPECT_EQ(kept, builtInPicture(qrnImageFolder));
+}
+
 TEST_F(ImageList, NothingAtAFreeNumberChangesNothing) {
   EXPECT_EQ(raisedBy([&] { list->SetImage(number(40), nullptr); }).number, 0);
   EXPECT_EQ(list->GetNextFreeImageIndex(), 19);

@@ -80,6 +80,20 @@ TEST_F(RowEvents, ComeFromNoPartOfADisabledRow) {
   EXPECT_TRUE(platform.shownMenus().empty());
 }
 
+TEST_F(RowEvents, LeaveTheKeysOfTheMenuOutEvenWithoutAMenu) {
+  useType(qrnTypeString);
+  user->focuses(row());
+  raised();
+  user->holds(host::key::F10, host::shift::Shift);
+  EXPECT_EQ(raised(), Events{});
+}
+
+TEST_F(RowEvents, HaveAMenuWhoseTemplateIsOneAndTheSame) {
+  row().GetMenuItem(0)->SetEnabled(false);
+  EXPECT_FALSE(row().GetMenuItem(0)->Enabled());
+  EXPECT_FALSE(row().AddMenuItem("Help")->Enabled());
+}
+
 TEST_F(RowEvents, ComeFromTheEditorsThatAreClicked) {
   useType(qrnTypeBoolean);
   user->clicks(checkBox());

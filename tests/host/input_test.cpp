@@ -78,7 +78,8 @@ TEST_F(Mouse, ReportsAClickToWhatHoldsTheControlInPixelsOfTheControl) {
 
 TEST_F(Mouse, ReportsADoubleClickAndAMove) {
   user.doubleClicks(label);
-  EXPECT_EQ(heard(), (Heard{"label MouseDown 1 25,6", "label MouseUp 1 25,6", "label DblClick 25,6"}));
+  EXPECT_EQ(heard(), (Heard{"label MouseDown 1 25,6", "label MouseUp 1 25,6", "label DblClick 25,6",
+                            "label MouseUp 1 25,6"}));
   user.movesTo({16, 24});
   user.movesTo({1, 1});
   EXPECT_EQ(heard(), (Heard{"label MouseMove 1,1", "surface MouseMove 1,1"}));

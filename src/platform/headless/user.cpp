@@ -93,8 +93,12 @@ void User::clicks(host::Control& control, host::MouseButton button) {
 
 void User::doubleClicks(host::Control& control) {
   const WeakRef<host::Control> target(&control);
+  const WeakRef<host::Control> surface(&surface_);
   clicks(control);
-  if (target) input().doubleClick(middleOf(control));
+  if (!target || !surface) return;
+  const Point at = middleOf(control);
+  input().doubleClick(at);
+  if (surface) releasesAt(at);
 }
 
 void User::clicksAt(Point at, host::MouseButton button) {
@@ -131,7 +135,11 @@ void User::releasesAt(Point at, host::MouseButton button) {
 
 void User::movesTo(Point at) {
   platform_.setCursor(at);
-  input().mouseMove(0, host::shift::None, at);
+  std::int16_t held = 0;
+  for (const auto button : {host::MouseButton::Left, host::MouseButton::Right}) {
+    if (input().holds(button)) held = static_cast<std::int16_t>(held | static_cast<std::int16_t>(button));
+  }
+  input().mouseMove(held, host::shift::None, at);
 }
 
 void User::turnsWheel(Point at, double notches) {

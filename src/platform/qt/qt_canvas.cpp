@@ -164,6 +164,7 @@ void QtCanvas::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void QtCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return mousePressEvent(event);
   if (!control_ || forwarder_.sending()) return;
   guarded([&] { input().doubleClick(fromQt(event->position())); });
 }
