@@ -112,6 +112,14 @@ bool QRNMenuItem::doClick() {
   return static_cast<bool>(self);
 }
 
+// One that takes no clicks is only there to be read.
+void QRNMenuItem::tellFacts(host::AccessibleFacts& facts) const {
+  facts.role = takesClicks() ? host::AccessibleRole::Button : host::AccessibleRole::Label;
+  facts.name = caption_;
+  facts.description = ToolTipText();
+  if (takesClicks()) facts.action = host::AccessibleAction::Press;
+}
+
 void QRNMenuItem::startHitTracking() {
   auto& added = controls().add("VB.Timer", "tmrHit", *this);
   tmrHit_ = static_cast<host::Timer*>(&added);

@@ -83,6 +83,8 @@ class QRNMenuItem final : public host::UserControl {
   void keyUp(std::int16_t& keyCode, std::int16_t& shift) override;
 
  protected:
+  void tellFacts(host::AccessibleFacts& facts) const override;
+  void accessibleAct(std::int32_t) override { doClick(); }
   void initProperties() override;
   void resize() override { invalidate(); }
   void show() override;

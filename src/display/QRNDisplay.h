@@ -185,7 +185,14 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   }
   host::Control* nextTabStop(host::Control* from, bool forward) override;
 
+  std::int32_t accessibleCount() const override;
+  host::AccessibleNode accessibleChild(std::int32_t index) override;
+  std::int32_t accessibleIndexOf(const host::AccessibleNode& child) override;
+  void childPressed(host::Control& child) override;
+  void tellFactsOf(const host::Control& inside, host::AccessibleFacts& facts) const override;
+
  protected:
+  void tellFacts(host::AccessibleFacts& facts) const override;
   void initialize() override;
   /// A new panel has colours of its own, not those of the container.
   void initProperties() override {}
@@ -251,6 +258,9 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void toggleMaximized();
   void hover(const host::Control* titleButton);
   void clickOn(host::Control& child);
+
+  /// Null for what is no item's control.
+  const PanelItem* itemOf(const host::Control& control) const;
 
   // ---- painting (QRNDisplay_paint.cpp) ----
   void paintTitle(host::Surface& surface, Size size);

@@ -3,6 +3,7 @@
 #include "display/QRNDisplay.h"
 #include "images/QRNImageList.h"
 #include "runtime/errors.h"
+#include "values/error_words.h"
 
 namespace qrn {
 namespace {
@@ -16,19 +17,20 @@ struct StateLook {
   qrnParamState flags;
   qrnImageId picture;
   host::Color color;
+  std::string_view words;
 };
 
 // The first line whose flags the state has any of counts.
 constexpr StateLook kLooks[] = {
-    {qrnStateRangeError, qrnImageRangeErr, kRed},
-    {qrnStateError, qrnImageInputErr, kRed},
-    {qrnStateOtherError, qrnImageError, kRed},
-    {qrnStateNeeded, qrnImageNeeded, kGreen},
-    {qrnStateChanged | qrnStateDataDirty, qrnImageChanged, kBlue},
-    {qrnStateDynOffline, qrnImageDynOffline, kGreen},
-    {qrnStateDynamic, qrnImageDynamic1, kGreen},
-    {qrnStateInitValue, qrnImageInitValue, kBlack},
-    {qrnStateReadOnly, qrnImageLocked, kBlack},
+    {qrnStateRangeError, qrnImageRangeErr, kRed, "Out of range"},
+    {qrnStateError, qrnImageInputErr, kRed, "Input error"},
+    {qrnStateOtherError, qrnImageError, kRed, "Error"},
+    {qrnStateNeeded, qrnImageNeeded, kGreen, "Value needed"},
+    {qrnStateChanged | qrnStateDataDirty, qrnImageChanged, kBlue, "Changed"},
+    {qrnStateDynOffline, qrnImageDynOffline, kGreen, "Dynamic value, offline"},
+    {qrnStateDynamic, qrnImageDynamic1, kGreen, "Dynamic value"},
+    {qrnStateInitValue, qrnImageInitValue, kBlack, "Initial value"},
+    {qrnStateReadOnly, qrnImageLocked, kBlack, "Read-only"},
 };
 
 StateLook lookOf(qrnParamState state, int dynamicPhase) {
@@ -37,7 +39,7 @@ StateLook lookOf(qrnParamState state, int dynamicPhase) {
     if (look.flags == qrnStateDynamic && dynamicPhase != 0) look.picture = qrnImageDynamic2;
     return look;
   }
-  return {qrnStateNormal, qrnImageInfo, kBlack};
+  return {qrnStateNormal, qrnImageInfo, kBlack, "Information"};
 }
 
 // What an error code of the editor adds to the state.
@@ -121,6 +123,24 @@ void clsQRNParam::UpdateStateFromEditor() {
   if (Control().ValueChanged()) state_ = state_ | qrnStateChanged;
   state_ = state_ | flagsOf(error_);
   if (state_ != oldState || error_ != oldError) ApplyStateLook(true);
+}
+
+// The state is the host's to set, so the code of the last edit counts only while its flags stand.
+std::string_view clsQRNParam::stateError() const {
+  const qrnParamState flags = flagsOf(error_);
+  if (flags != qrnStateNormal && (state_ & flags) == flags) return errorInWords(error_);
+  if ((state_ & qrnStateRangeError) != 0) return errorInWords(qrnErrorRange);
+  if ((state_ & (qrnStateError | qrnStateOtherError)) != 0) return errorInWords(qrnErrorUnknown);
+  return {};
+}
+
+void clsQRNParam::tellFacts(const host::Control& inside, host::AccessibleFacts& facts) const {
+  QRNEdit& row = Control();
+  if (&inside == &row.imgIcon2()) {
+    if (facts.name.empty()) facts.name = lookOf(state_, dynamicPhase_).words;
+  } else if (&inside == row.CurrentEditor() || facts.role == host::AccessibleRole::Label) {
+    facts.error = stateError();
+  }
 }
 
 void clsQRNParam::controlEvent(std::string_view name, host::EventArgs arguments) {

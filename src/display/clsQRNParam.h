@@ -28,9 +28,11 @@ class clsQRNParam final : public PanelItem {
  private:
   void SetControl(host::UserControl& control) override;
   void controlEvent(std::string_view name, host::EventArgs arguments) override;
+  void tellFacts(const host::Control& inside, host::AccessibleFacts& facts) const override;
 
   void ApplyStateLook(bool notify);
   void UpdateStateFromEditor();
+  std::string_view stateError() const;
   void tick();
 
   qrnParamState state_ = qrnStateNormal;

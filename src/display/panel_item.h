@@ -30,6 +30,8 @@ class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> 
   virtual void SetControl(host::UserControl& control);
   /// Answers whether the item deals with the event; the names are those of the control's events.
   virtual void controlEvent(std::string_view name, host::EventArgs arguments) = 0;
+  /// What the item knows of its control, or of one inside that.
+  virtual void tellFacts(const host::Control& /*inside*/, host::AccessibleFacts&) const {}
 
   host::UserControl* control() const { return control_.get(); }
   /// Errors: 0x80040001 once the control has gone.

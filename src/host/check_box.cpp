@@ -7,8 +7,15 @@ namespace qrn::host {
 void CheckBox::userToggled() {
   if (!Enabled()) return;
   value_ = value_ == 0 ? 1 : 0;
-  if (!peer()) invalidate();
+  touchedByUser(Aspect::Content);
   Parent()->childClicked(*this);
+}
+
+void CheckBox::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::CheckBox;
+  facts.action = AccessibleAction::Toggle;
+  facts.states.checkable = true;
+  facts.states.checked = value_ != 0;
 }
 
 std::intptr_t CheckBox::windowMessage(const Message& message) {

@@ -17,6 +17,10 @@ class CheckBox final : public Editor {
 
   std::intptr_t windowMessage(const Message& message) override;
 
+ protected:
+  void tellFacts(AccessibleFacts& facts) const override;
+  void accessibleAct(std::int32_t) override { userToggled(); }
+
  private:
   std::int16_t value_ = 0;
 };

@@ -11,10 +11,33 @@ void ComboBox::userSelected(std::int32_t index) {
     return;
   }
   listIndex_ = index;
-  if (!peer()) invalidate();
+  touchedByUser(Aspect::Content);
   const WeakRef<Control> self(this);
   Parent()->childChanged(*this);
   if (self) Parent()->childClicked(*this);
+}
+
+void ComboBox::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::DropList;
+  facts.value = Text();
+  facts.states.readOnly = locked_;
+}
+
+void ComboBox::tellEntryFacts(std::int32_t index, AccessibleFacts& facts) const {
+  if (index >= ListCount()) return;
+  facts.name = List(index);
+  facts.action = AccessibleAction::Choose;
+  facts.states.selectable = true;
+  facts.states.selected = index == ListIndex();
+}
+
+bool ComboBox::accessibleEnter(std::string_view text) {
+  for (std::int32_t index = 0; index < ListCount(); ++index) {
+    if (List(index) != text) continue;
+    userSelected(index);
+    return true;
+  }
+  return false;
 }
 
 std::intptr_t ComboBox::windowStyle(std::intptr_t style) const {

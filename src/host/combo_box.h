@@ -23,6 +23,12 @@ class ComboBox final : public ListEditor {
   std::intptr_t windowStyle(std::intptr_t style) const override;
   void windowStyleChanged(std::intptr_t style) override;
 
+ protected:
+  void tellFacts(AccessibleFacts& facts) const override;
+  void tellEntryFacts(std::int32_t entry, AccessibleFacts& facts) const override;
+  void accessibleAct(std::int32_t entry) override { userSelected(entry); }
+  bool accessibleEnter(std::string_view text) override;
+
  private:
   bool locked_ = false;
   bool upperCase_ = false;

@@ -1,5 +1,7 @@
 #include "host/command_button.h"
 
+#include <string>
+
 #include "host/container_control.h"
 
 namespace qrn::host {
@@ -10,6 +12,16 @@ std::int16_t keyCodeOf(char character) {
   if (character >= 'a' && character <= 'z') return static_cast<std::int16_t>(character - 'a' + 'A');
   const bool itself = (character >= 'A' && character <= 'Z') || (character >= '0' && character <= '9');
   return itself ? static_cast<std::int16_t>(character) : std::int16_t{0};
+}
+
+// As a person reads it: a single "&" only marks the letter behind it.
+std::string withoutMnemonic(std::string_view caption) {
+  std::string read;
+  for (std::size_t at = 0; at < caption.size(); ++at) {
+    if (caption[at] == '&' && ++at == caption.size()) break;
+    read += caption[at];
+  }
+  return read;
 }
 
 }  // namespace
@@ -30,6 +42,15 @@ std::int16_t CommandButton::mnemonic() const {
 
 void CommandButton::userClicked() {
   if (Enabled()) raise(Click, "Click");
+}
+
+void CommandButton::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::Button;
+  facts.name = withoutMnemonic(caption_);
+  facts.description = ToolTipText();
+  facts.action = AccessibleAction::Press;
+  if (const std::int16_t letter = mnemonic())
+    facts.shortcut = std::string("Alt+") + static_cast<char>(letter);
 }
 
 // Enter is a dialog's own key, but a button with the focus is clicked by it.

@@ -28,6 +28,10 @@ class CommandButton final : public Editor {
 
   std::intptr_t windowMessage(const Message& message) override;
 
+ protected:
+  void tellFacts(AccessibleFacts& facts) const override;
+  void accessibleAct(std::int32_t) override { userClicked(); }
+
  private:
   std::string caption_;
 };

@@ -206,6 +206,41 @@ void Control::touched(Aspect aspect) {
     peer_->changed(aspect);
   else
     invalidate();
+  tellTools(aspect);
+}
+
+void Control::touchedByUser(Aspect aspect) {
+  if (!peer_) invalidate();
+  tellTools(aspect);
+}
+
+// ---- assistive tools ----
+
+// Only a surface that is on a screen has tools that look at it.
+void Control::tellTools(Aspect aspect) {
+  const Control* top = this;
+  while (top->container_) top = top->container_;
+  if (top->peer_) top->peer_->accessibleChanged(*this, aspect);
+}
+
+AccessibleFacts Control::accessibleFacts() const {
+  AccessibleFacts facts;
+  AccessibleStates& states = facts.states;
+  states.unavailable = !enabledUpToSurface();
+  states.invisible = !shown();
+  states.offscreen = !states.invisible && visibleOnSurface().empty();
+  states.focusable = acceptsFocus() && !states.unavailable && !states.invisible;
+  states.focused = input().focus() == this;
+  tellFacts(facts);
+  for (const UserControl* holder = parent_; holder; holder = holder->Parent())
+    holder->tellFactsOf(*this, facts);
+  return facts;
+}
+
+std::int32_t Control::accessibleIndexOf(const AccessibleNode& child) {
+  std::int32_t index = accessibleCount() - 1;
+  while (index >= 0 && accessibleChild(index) != child) --index;
+  return index;
 }
 
 }  // namespace qrn::host

@@ -9,6 +9,7 @@
 #include "base/event.h"
 #include "base/geometry.h"
 #include "base/weak_ref.h"
+#include "host/accessible.h"
 #include "host/event_args.h"
 #include "host/input.h"
 #include "host/platform.h"
@@ -112,7 +113,17 @@ class Control : public Object {
   /// The user control that holds this one has another font.
   virtual void fontChanged() {}
 
+  // ---- what assistive tools are told, see AccessibleNode ----
+
+  AccessibleFacts accessibleFacts() const;
+  /// The controls and entries that are seen as parts of this one, in reading order.
+  virtual std::int32_t accessibleCount() const { return 0; }
+  virtual AccessibleNode accessibleChild(std::int32_t /*index*/) { return {}; }
+  /// -1 for what is no part of this one.
+  virtual std::int32_t accessibleIndexOf(const AccessibleNode& child);
+
  protected:
+  friend struct AccessibleNode;
   friend class ContainerControl;
   friend class Controls;
   friend class Input;
@@ -127,6 +138,13 @@ class Control : public Object {
   /// The focus came to this control or one inside it, or left it.
   virtual void gotFocus() {}
   virtual void lostFocus() {}
+
+  /// What the control itself has to tell; where it is and whether it can be used is known already.
+  virtual void tellFacts(AccessibleFacts&) const {}
+  virtual void tellEntryFacts(std::int32_t /*entry*/, AccessibleFacts&) const {}
+  /// Does what the facts name as the action.
+  virtual void accessibleAct(std::int32_t /*entry*/) {}
+  virtual bool accessibleEnter(std::string_view /*text*/) { return false; }
 
   /// Raises an event and hands it to the listeners by name, the control's own listeners first.
   template <class... Args>
@@ -152,6 +170,8 @@ class Control : public Object {
     return true;
   }
   void touched(Aspect aspect);
+  /// The same for what the user did, which a peer knows already.
+  void touchedByUser(Aspect aspect);
 
  private:
   const Control* paintedBy() const;
@@ -160,6 +180,7 @@ class Control : public Object {
   Rare& rare();
   bool enabledUpToSurface() const;
   void tellPlace();
+  void tellTools(Aspect aspect);
 
   std::string name_;
   UserControl* parent_ = nullptr;

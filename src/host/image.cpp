@@ -1,6 +1,6 @@
 #include "host/image.h"
 
-#include "host/container_control.h"
+#include "host/user_control.h"
 
 namespace qrn::host {
 
@@ -12,6 +12,13 @@ void Image::SetPicture(PicturePtr picture) {
        picture_ ? picture_->height() / scale.y : 0);
   invalidate();
 }
+
+void Image::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::Picture;
+  facts.name = ToolTipText();
+}
+
+void Image::accessibleAct(std::int32_t) { Parent()->childPressed(*this); }
 
 void Image::paint(Surface& surface, Size) {
   if (picture_ && !picture_->empty()) surface.picture({0, 0}, *picture_);

@@ -16,6 +16,10 @@ class Image final : public Control {
 
   void paint(Surface& surface, Size size) override;
 
+ protected:
+  void tellFacts(AccessibleFacts& facts) const override;
+  void accessibleAct(std::int32_t) override;
+
  private:
   PicturePtr picture_;
 };

@@ -90,6 +90,7 @@ class Input {
   /// The controls inside the surface that have a native widget; a handful at most.
   void remember(Control& withPeer) { peers_.push_back(&withPeer); }
   void forgetPeer(const Control& control) { std::erase(peers_, &control); }
+  const std::vector<Control*>& withPeers() const { return peers_; }
   void tellPlaceInside(const Control& moved);
 
  private:

@@ -21,7 +21,7 @@ void ListBox::userChecked(std::int16_t index) {
   if (!Enabled() || index < 0 || index >= ListCount()) return;
   Entry& changed = entry(index);
   changed.selected = !changed.selected;
-  if (!peer()) invalidate();
+  touchedByUser(Aspect::Content);
   Parent()->childItemChecked(*this, index);
 }
 
@@ -31,6 +31,21 @@ void ListBox::userPressed(MouseButton button, Point at) {
 
 void ListBox::userReleased(MouseButton button, Point at) {
   Parent()->childMouseUp(*this, button, shift::None, at);
+}
+
+void ListBox::tellEntryFacts(std::int32_t index, AccessibleFacts& facts) const {
+  if (index >= ListCount()) return;
+  facts.name = List(index);
+  facts.action = AccessibleAction::Toggle;
+  facts.states.checkable = true;
+  facts.states.checked = Selected(index);
+  facts.states.selectable = true;
+  facts.states.selected = index == ListIndex();
+}
+
+void ListBox::accessibleAct(std::int32_t index) {
+  userMovedTo(index);
+  userChecked(static_cast<std::int16_t>(index));
 }
 
 void ListBox::gotFocus() {

@@ -22,6 +22,9 @@ class ListBox final : public ListEditor {
 
  protected:
   void gotFocus() override;
+  void tellFacts(AccessibleFacts& facts) const override { facts.role = AccessibleRole::List; }
+  void tellEntryFacts(std::int32_t entry, AccessibleFacts& facts) const override;
+  void accessibleAct(std::int32_t entry) override;
 };
 
 }  // namespace qrn::host

@@ -39,6 +39,13 @@ class ListEditor : public Editor {
   /// The widest entry in the holder's scale units; 0 for an empty list. Measured once for each list and font.
   double widestText() const;
 
+  // The entries are what tools see in a list.
+  std::int32_t accessibleCount() const override { return ListCount(); }
+  AccessibleNode accessibleChild(std::int32_t index) override { return {this, index}; }
+  std::int32_t accessibleIndexOf(const AccessibleNode& child) override {
+    return child.control == this && child.entry < ListCount() ? child.entry : -1;
+  }
+
  protected:
   struct Entry {
     std::string text;

@@ -40,6 +40,9 @@ class Peer {
   /// A part of the control, in its own coordinates, has to be painted again.
   virtual void invalidate(const Rect& area) = 0;
   virtual void takeFocus() = 0;
+  /// To the peer of a surface: the control or one on it has another value or other states, which tools that
+  /// know it may have to hear.
+  virtual void accessibleChanged(Control& /*control*/, Aspect) {}
 };
 
 class Clock {

@@ -52,7 +52,9 @@ void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32
   if (changed) store(std::move(wanted));
   userSelected(selStart, selLength);
   if (corrected && peer()) peer()->changed(Aspect::Content);
-  if (changed) Parent()->childChanged(*this);
+  if (!changed) return;
+  touchedByUser(Aspect::Content);
+  Parent()->childChanged(*this);
 }
 
 void TextBox::userSelected(std::int32_t start, std::int32_t length) {
@@ -64,6 +66,18 @@ void TextBox::userSelected(std::int32_t start, std::int32_t length) {
 std::intptr_t TextBox::windowMessage(const Message& message) {
   if (message.number == wm::GetDlgCode) return dlgc::WantChars | dlgc::HasSetSel | dlgc::WantArrows;
   return Editor::windowMessage(message);
+}
+
+void TextBox::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::Text;
+  facts.value = shownText();
+  facts.states.readOnly = locked_;
+  facts.states.secret = !passwordChar_.empty();
+}
+
+bool TextBox::accessibleEnter(std::string_view text) {
+  userTyped(text, static_cast<std::int32_t>(text::length(text)));
+  return true;
 }
 
 std::intptr_t TextBox::windowStyle(std::intptr_t style) const {

@@ -45,6 +45,8 @@ class TextBox final : public Editor {
 
  protected:
   void forgetMeasures() override { textWidth_ = kUnknown; }
+  void tellFacts(AccessibleFacts& facts) const override;
+  bool accessibleEnter(std::string_view text) override;
 
  private:
   void store(std::string text);

@@ -82,6 +82,10 @@ class UserControl : public ContainerControl, public Site {
   virtual void childKeyDown(Control&, std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}
   virtual void childKeyPress(Control&, std::int16_t& /*keyAscii*/) {}
   virtual void childKeyUp(Control&, std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}
+  /// A tool presses a picture that this control has made a button of.
+  virtual void childPressed(Control&) {}
+  /// What this control adds to the facts of one inside it, at any depth.
+  virtual void tellFactsOf(const Control& /*inside*/, AccessibleFacts&) const {}
 
   /// The control that Tab (or Shift+Tab) goes to from one inside this control, or null at the end. `from` is
   /// null when the focus comes from outside.

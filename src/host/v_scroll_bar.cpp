@@ -1,6 +1,8 @@
 #include "host/v_scroll_bar.h"
 
 #include <algorithm>
+#include <charconv>
+#include <string>
 
 #include "host/user_control.h"
 #include "runtime/errors.h"
@@ -39,6 +41,18 @@ void VScrollBar::userScrolled(std::int32_t value) {
   value_ = value;
   if (!peer()) invalidate();
   Parent()->childChanged(*this);
+}
+
+void VScrollBar::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::ScrollBar;
+  facts.value = std::to_string(value_);
+}
+
+bool VScrollBar::accessibleEnter(std::string_view number) {
+  std::int32_t value = 0;
+  if (std::from_chars(number.data(), number.data() + number.size(), value).ec != std::errc()) return false;
+  userScrolled(value);
+  return true;
 }
 
 void VScrollBar::paint(Surface& surface, Size) { platform().paintControl(surface, *this); }

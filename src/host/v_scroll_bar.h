@@ -33,6 +33,8 @@ class VScrollBar final : public Control {
   void visibilityChanged() override {
     if (Container()) realiseWithSurface();
   }
+  void tellFacts(AccessibleFacts& facts) const override;
+  bool accessibleEnter(std::string_view number) override;
 
  private:
   std::int32_t inRange(std::int32_t value) const;

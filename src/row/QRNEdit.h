@@ -234,7 +234,14 @@ class QRNEdit final : public host::UserControl {
   void childKeyPress(host::Control& child, std::int16_t& keyAscii) override;
   void childKeyUp(host::Control& child, std::int16_t& keyCode, std::int16_t& shift) override;
 
+  // Tools see the editor, which has the caption and the unit for a name, and the icons that say something.
+  std::int32_t accessibleCount() const override;
+  host::AccessibleNode accessibleChild(std::int32_t index) override;
+  void childPressed(host::Control& child) override;
+  void tellFactsOf(const host::Control& inside, host::AccessibleFacts& facts) const override;
+
  protected:
+  void tellFacts(host::AccessibleFacts& facts) const override;
   void initialize() override;
   void resize() override { layOut(); }
   void show() override;
@@ -324,6 +331,12 @@ class QRNEdit final : public host::UserControl {
   std::optional<Variant> editorContent() const;
   bool differs(const Variant& content) const;
   void correctDecimalSeparator();
+
+  // ---- for assistive tools (QRNEdit_accessible.cpp) ----
+  std::string accessibleName() const;
+  const std::string& accessibleDescription() const;
+  bool isSeenByTools(const Icon& icon) const;
+  host::Control* accessiblePart(std::int32_t index);
 
   // ---- layout (QRNEdit_layout.cpp) ----
   void layOut();

@@ -17,6 +17,10 @@ double FixedMetrics::advance(std::string_view text) {
   return characterWidth * static_cast<double>(text::length(text));
 }
 
+void HeadlessPeer::accessibleChanged(host::Control& control, host::Aspect aspect) {
+  toldTools.emplace_back(control.Name(), aspect);
+}
+
 std::unique_ptr<host::Peer> HeadlessPlatform::realise(host::Control& control) {
   if (control.peerPolicy() == host::PeerPolicy::Never) return nullptr;
   return std::make_unique<HeadlessPeer>(peers_);

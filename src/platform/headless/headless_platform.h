@@ -38,10 +38,13 @@ class HeadlessPeer final : public host::Peer {
   void changed(host::Aspect) override { ++changes; }
   void invalidate(const Rect& area) override { invalidated.push_back(area); }
   void takeFocus() override { ++focused; }
+  void accessibleChanged(host::Control& control, host::Aspect aspect) override;
 
   int changes = 0;
   int focused = 0;
   std::vector<Rect> invalidated;
+  /// Of a surface: whose changes tools would hear of.
+  std::vector<std::pair<std::string, host::Aspect>> toldTools;
 
  private:
   int& alive_;

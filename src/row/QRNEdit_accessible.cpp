@@ -1,0 +1,74 @@
+#include "row/QRNEdit.h"
+#include "values/error_words.h"
+
+namespace qrn {
+
+using host::AccessibleFacts;
+using host::AccessibleNode;
+using host::AccessibleRole;
+
+// "Pressure (bar)". A hidden caption still says what the value is; a unit that is not shown does not count.
+std::string QRNEdit::accessibleName() const {
+  const std::string& unit = UnitText();
+  if (!unitVisible_ || unit.empty()) return LabelText();
+  return LabelText().empty() ? unit : LabelText() + " (" + unit + ")";
+}
+
+const std::string& QRNEdit::accessibleDescription() const {
+  return ValueToolTip().empty() ? LabelToolTip() : ValueToolTip();
+}
+
+bool QRNEdit::isSeenByTools(const Icon& icon) const {
+  const host::PicturePtr& picture = icon.image.Picture();
+  const bool says = icon.mode != qrnbuttonNone || !icon.image.ToolTipText().empty();
+  return says && iconShown(icon) && picture && !picture->empty();
+}
+
+host::Control* QRNEdit::accessiblePart(std::int32_t index) {
+  host::Control* const editor = valueVisible_ ? CurrentEditor() : nullptr;
+  if (editor && index-- == 0) return editor;
+  for (Icon* icon : {&icon1_, &icon2_}) {
+    if (isSeenByTools(*icon) && index-- == 0) return &icon->image;
+  }
+  return nullptr;
+}
+
+std::int32_t QRNEdit::accessibleCount() const {
+  const std::int32_t editor = valueVisible_ && CurrentEditor() ? 1 : 0;
+  return editor + (isSeenByTools(icon1_) ? 1 : 0) + (isSeenByTools(icon2_) ? 1 : 0);
+}
+
+AccessibleNode QRNEdit::accessibleChild(std::int32_t index) { return {accessiblePart(index)}; }
+
+// The group around an editor has no name, or tools would say the caption twice. A row without an editor is
+// all that there is to be read.
+void QRNEdit::tellFacts(AccessibleFacts& facts) const {
+  facts.role = AccessibleRole::Group;
+  if (valueVisible_ && CurrentEditor()) return;
+  facts.role = AccessibleRole::Label;
+  facts.name = accessibleName();
+  facts.description = LabelToolTip();
+  if (valueVisible_) facts.value = ValueText();
+}
+
+void QRNEdit::tellFactsOf(const host::Control& inside, AccessibleFacts& facts) const {
+  if (&inside == CurrentEditor()) {
+    facts.name = accessibleName();
+    facts.description = accessibleDescription();
+    facts.states.readOnly = locked_;
+    // Nothing is held against a value that nobody has touched.
+    if (ValueChanged()) facts.error = errorInWords(ValueError());
+  }
+  for (const Icon* icon : {&icon1_, &icon2_}) {
+    if (&inside != &icon->image || icon->mode == qrnbuttonNone) continue;
+    facts.role = AccessibleRole::Button;
+    facts.description = accessibleName();
+    facts.action = host::AccessibleAction::Press;
+  }
+}
+
+void QRNEdit::childPressed(host::Control& child) {
+  if (Enabled()) clickOn(child);
+}
+
+}  // namespace qrn
