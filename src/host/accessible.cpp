@@ -5,6 +5,11 @@
 namespace qrn::host {
 namespace {
 
+// What the user does comes from a peer as a rule, which then knows it.
+void bringPeerUpToDate(Control& control) {
+  if (control.peer()) control.peer()->changed(Aspect::Content);
+}
+
 bool takesInput(const AccessibleStates& states) { return !states.unavailable && !states.invisible; }
 
 }  // namespace
@@ -55,7 +60,7 @@ bool AccessibleNode::act() const {
   if (now.states.focusable && !focus()) return false;
   if (!guard) return false;
   control->accessibleAct(entry);
-  if (guard) control->touched(Aspect::Content);
+  if (guard) bringPeerUpToDate(*control);
   return true;
 }
 
@@ -66,7 +71,7 @@ bool AccessibleNode::enter(std::string_view text) const {
   if (states.focusable && !focus()) return false;
   if (!guard) return false;
   const bool entered = control->accessibleEnter(text);
-  if (guard) control->touched(Aspect::Content);
+  if (guard) bringPeerUpToDate(*control);
   return entered;
 }
 

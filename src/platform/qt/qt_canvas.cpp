@@ -10,6 +10,7 @@
 
 #include "host/text_box.h"
 #include "host/user_control.h"
+#include "platform/qt/qt_accessible_parts.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_guard.h"
 #include "platform/qt/qt_keys.h"
@@ -28,6 +29,8 @@ QtCanvas::QtCanvas(QtPlatform& platform, host::UserControl& control)
   setAttribute(Qt::WA_OpaquePaintEvent);
   if (!sizeHint().isEmpty()) resize(sizeHint());
 }
+
+QtCanvas::~QtCanvas() = default;
 
 host::Input& QtCanvas::input() const { return control_->input(); }
 
@@ -98,7 +101,10 @@ void QtCanvas::focusInEvent(QFocusEvent* event) {
   if (quiet_ || !control_) return;
   guarded([&] {
     if (host::Control* focus = input().focus()) {
-      if (focus->peer()) focus->peer()->takeFocus();
+      if (focus->peer())
+        focus->peer()->takeFocus();
+      else
+        tellToolsOfFocus();
     } else if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
       input().moveFocus(event->reason() == Qt::TabFocusReason);
     } else if (event->reason() != Qt::MouseFocusReason) {

@@ -1,12 +1,17 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
+#include <memory>
 
 #include "platform/qt/qt_press_forwarder.h"
 
+class QAccessibleInterface;
 class QHelpEvent;
 
 namespace qrn::host {
+enum class Aspect : std::uint8_t;
+struct AccessibleNode;
 class Control;
 class Input;
 class UserControl;
@@ -14,6 +19,7 @@ class UserControl;
 
 namespace qrn::qt {
 
+class QtAccessibleParts;
 class QtPlatform;
 
 /// The one widget of a user control: paints the whole tree of controls, reports what the user does to it, and
@@ -21,6 +27,7 @@ class QtPlatform;
 class QtCanvas final : public QWidget {
  public:
   QtCanvas(QtPlatform& platform, host::UserControl& control);
+  ~QtCanvas() override;
 
   QtPlatform& platform() const { return platform_; }
   /// Null once the control has gone.
@@ -36,6 +43,19 @@ class QtCanvas final : public QWidget {
   void keepFocus();
   /// The same, if the widget or one inside it has the focus.
   void takeFocusFrom(const QWidget& widget);
+  bool keepsFocusQuietly() const { return quiet_; }
+
+  // ---- for assistive tools (qt_canvas_accessible.cpp) ----
+
+  /// The interface of anything on the canvas, made now if nobody has asked for it before; null for none.
+  QAccessibleInterface* accessible(const host::AccessibleNode& node);
+  /// The control that has this widget for its editor; null for none.
+  host::Control* controlOf(const QWidget& widget) const;
+  /// How many interfaces there are beside those of widgets.
+  std::size_t accessibleParts() const;
+  void tellToolsOfChange(host::Control& control, host::Aspect aspect);
+  /// That the focus is on something painted: of the focus on a widget Qt tells itself.
+  void tellToolsOfFocus();
 
   QSize sizeHint() const override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -72,9 +92,10 @@ class QtCanvas final : public QWidget {
   QtPlatform& platform_;
   host::UserControl* control_;
   QtPressForwarder forwarder_;
-  bool quiet_ = false;     // the focus moves without anybody being told
-  bool typing_ = false;    // a replaced character is on its way to the editor
-  bool resizing_ = false;  // the widget's size is on its way to the control
+  std::unique_ptr<QtAccessibleParts> accessibleParts_;  // from the moment on when a tool asks for any
+  bool quiet_ = false;                                  // the focus moves without anybody being told
+  bool typing_ = false;                                 // a replaced character is on its way to the editor
+  bool resizing_ = false;                               // the widget's size is on its way to the control
 };
 
 }  // namespace qrn::qt

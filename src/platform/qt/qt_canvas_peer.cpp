@@ -18,7 +18,13 @@ void QtCanvasPeer::invalidate(const Rect& area) {
 }
 
 void QtCanvasPeer::takeFocus() {
-  if (canvas()) canvas()->keepFocus();
+  if (!canvas()) return;
+  canvas()->keepFocus();
+  canvas()->tellToolsOfFocus();
+}
+
+void QtCanvasPeer::accessibleChanged(host::Control& control, host::Aspect aspect) {
+  if (canvas()) canvas()->tellToolsOfChange(control, aspect);
 }
 
 void QtCanvasPeer::apply(host::Aspect aspect) {

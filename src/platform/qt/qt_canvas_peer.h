@@ -13,6 +13,7 @@ class QtCanvasPeer final : public QtPeer {
   QtCanvas* canvas() const { return static_cast<QtCanvas*>(widget()); }
   void invalidate(const Rect& area) override;
   void takeFocus() override;
+  void accessibleChanged(host::Control& control, host::Aspect aspect) override;
 
  private:
   void apply(host::Aspect aspect) override;

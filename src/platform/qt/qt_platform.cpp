@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "host/user_control.h"
+#include "platform/qt/qt_accessible.h"
 #include "platform/qt/qt_canvas_peer.h"
 #include "platform/qt/qt_check_box_peer.h"
 #include "platform/qt/qt_color.h"
@@ -58,7 +59,9 @@ void realiseInside(host::ContainerControl& container) {
 
 }  // namespace
 
-QtPlatform::QtPlatform() : defaultFont_(applicationFont()), palettes_(*this), editorPainter_(*this) {}
+QtPlatform::QtPlatform() : defaultFont_(applicationFont()), palettes_(*this), editorPainter_(*this) {
+  QAccessible::installFactory(&QtAccessibleWidget::make);
+}
 
 QWidget* QtPlatform::widget(host::UserControl& control) {
   if (widgetIsGone(control)) control.dropPeer();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/platform.h"
+#include "platform/qt/qt_accessible_events.h"
 #include "platform/qt/qt_application_watch.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_editor_painter.h"
@@ -48,6 +49,7 @@ class QtPlatform final : public host::Platform {
 
   QtPalettes& palettes() { return palettes_; }
   QtPictureCache& pictures() { return pictures_; }
+  QtAccessibleEvents& accessibleEvents() { return accessibleEvents_; }
   /// Palette, style or scale of the application are others now.
   void appearanceChanged();
 
@@ -59,6 +61,7 @@ class QtPlatform final : public host::Platform {
   QtClock clock_;
   QtPalettes palettes_;
   QtPictureCache pictures_;
+  QtAccessibleEvents accessibleEvents_;
   QtEditorPainter editorPainter_;
 };
 
