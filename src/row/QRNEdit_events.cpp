@@ -143,6 +143,9 @@ void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std
     const WeakRef<QRNEdit> self(this);
     SetFocus();
     if (self && chkValue_) chkValue_->Check().userToggled();
+    // The box's own widget has not seen this click.
+    if (self && chkValue_ && chkValue_->Check().peer())
+      chkValue_->Check().peer()->changed(host::Aspect::Content);
     return;
   }
   if (const Icon* icon = iconOf(child); icon && icon->mode != qrnbuttonNone) invalidate();

@@ -194,6 +194,15 @@ TEST_F(AccessiblePanelOnQt, AMarkIsToggledAlsoOnTheRealEditor) {
   EXPECT_EQ(row("Alarms").ValueText(), "10");
 }
 
+TEST_F(AccessiblePanelOnQt, AClickOnTheCaptionTogglesTheMarkOfTheRealEditorToo) {
+  const Rect caption = row("Active").lblLabel().onSurface();
+  QTest::mouseClick(canvas, Qt::LeftButton, Qt::NoModifier,
+                    QPoint(static_cast<int>(caption.left) + 3, static_cast<int>(caption.top) + 3));
+  EXPECT_EQ(row("Active").ValueText(), "True");
+  ASSERT_NE(canvas->findChild<QAbstractButton*>(), nullptr);
+  EXPECT_TRUE(canvas->findChild<QAbstractButton*>()->isChecked());
+}
+
 TEST_F(AccessiblePanelOnQt, AnEntryIsChosenAlsoOnTheRealEditor) {
   editorOf(2).child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   EXPECT_EQ(textOf(editorOf(2), QAccessible::Value), "fast");
