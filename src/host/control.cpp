@@ -1,5 +1,7 @@
 #include "host/control.h"
 
+#include <algorithm>
+
 #include "host/container_control.h"
 #include "host/user_control.h"
 #include "runtime/errors.h"
@@ -171,6 +173,19 @@ Rect Control::visibleOnSurface() const {
 }
 
 bool Control::shown() const { return visible_ && (!container_ || container_->shown()); }
+
+bool Control::covered() const {
+  const Rect place = onSurface();
+  const auto inFront = [&](const Control* other) {
+    return other->visible_ && other->onSurface().intersects(place);
+  };
+  for (const Control* control = this; control->container_; control = control->container_) {
+    const auto& beside = control->container_->contained();
+    const auto self = std::find(beside.begin(), beside.end(), control);
+    if (std::any_of(std::next(self), beside.end(), inFront)) return true;
+  }
+  return false;
+}
 
 Point Control::fromSurface(Point at) const { return at - onSurface().topLeft(); }
 

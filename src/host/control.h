@@ -93,6 +93,8 @@ class Control : public Object {
   Rect visibleOnSurface() const;
   /// Every control up to the surface is visible.
   bool shown() const;
+  /// Something lies in front of part of it.
+  bool covered() const;
   Size pixelSize() const;
   /// In pixels of the control; the right and lower edges are outside.
   bool contains(Point at) const { return Rect{0, 0, pixelSize().width, pixelSize().height}.contains(at); }

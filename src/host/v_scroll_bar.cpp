@@ -29,10 +29,10 @@ void VScrollBar::SetValue(std::int32_t value) {
 }
 
 void VScrollBar::realiseWithSurface() {
-  if (Visible() && root().peer())
-    realise();
-  else if (!Visible())
+  if (!Visible() || covered())
     dropPeer();
+  else if (root().peer())
+    realise();
 }
 
 void VScrollBar::userScrolled(std::int32_t value) {

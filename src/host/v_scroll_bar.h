@@ -21,7 +21,8 @@ class VScrollBar final : public Control {
   void SetSmallChange(std::int32_t change) { this->change(smallChange_, change, Aspect::Range); }
 
   PeerPolicy peerPolicy() const override { return PeerPolicy::WhenShown; }
-  /// Makes the native widget where the surface has one.
+  /// Makes the native widget where the surface has one and nothing lies in front of it, which it would show
+  /// through.
   void realiseWithSurface();
 
   void userScrolled(std::int32_t value);

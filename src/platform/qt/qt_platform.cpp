@@ -51,7 +51,8 @@ void realiseInside(host::ContainerControl& container) {
     if (widgetIsGone(*control)) control->dropPeer();
     const host::PeerPolicy policy = control->peerPolicy();
     const bool focused = policy == host::PeerPolicy::WhenFocused && control->input().focus() == control;
-    if (focused || (policy == host::PeerPolicy::WhenShown && control->Visible())) control->realise();
+    const bool seen = policy == host::PeerPolicy::WhenShown && control->Visible() && !control->covered();
+    if (focused || seen) control->realise();
     if (focused) control->peer()->takeFocus();
     if (auto* inner = dynamic_cast<host::ContainerControl*>(control)) realiseInside(*inner);
   }

@@ -1,0 +1,139 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "base/weak_ref.h"
+#include "display/QRNDisplay.h"
+#include "host/user_control.h"
+#include "images/QRNImageList.h"
+#include "runtime/selectable_list.h"
+#include "runtime/variant.h"
+#include "stack/clsDisplayPage.h"
+
+namespace qrn {
+
+/// A stack of panels. Pages are put on top, each a little further down and to the right, and taken off again
+/// by going back to one below; only the top one is active. A modal page disables all those below it.
+/// Everything that happens on a page is an event of the stack, with the page's 1-based index in front.
+class QRNDisplayStack final : public host::UserControl {
+ public:
+  QRNDisplayStack() = default;
+  std::string_view typeName() const override { return "QRNDisplayStack"; }
+  const host::ClassTable& classTable() const override;
+
+  /// By index or name. Errors: 5 for an unknown name, 9 for an index outside.
+  QRNDisplay& Pages(const Variant& aSelector) const;
+  std::int32_t Count() const { return pages_.count(); }
+
+  /// By how many pixels each page is further in than the one below.
+  std::int32_t LeftIndent() const { return leftIndent_; }
+  void SetLeftIndent(std::int32_t indent) { storeIndent(leftIndent_, indent, "LeftIndent"); }
+  std::int32_t TopIndent() const { return topIndent_; }
+  void SetTopIndent(std::int32_t indent) { storeIndent(topIndent_, indent, "TopIndent"); }
+  /// Whether a page that is covered shows its frame and title only.
+  bool HideDisabledControls() const { return hideDisabledControls_; }
+  void SetHideDisabledControls(bool hide);
+
+  /// Closes the pages above one, the top one first; 0 closes all of them. A listener of PageClose may keep a
+  /// page, and with it those below. Nothing happens for the top page, or an index above it.
+  void ActivatePage(std::int32_t PageIndex);
+  /// Puts a page on top, under a made name if the given one is empty; PageLayout is where it gets its items.
+  /// Null when there can be no control of that name, or a listener has closed the page at once.
+  QRNDisplay* AddPage(const std::string& PageName, const std::string& Title, bool bModal);
+
+  using Control::Enabled;
+  void SetEnabled(bool enabled) override;
+  const host::FontPtr& Font() const { return font(); }
+  /// Of the stack and of every page there is.
+  void SetFont(host::FontPtr font);
+  host::Color BackColor() const { return backColor(); }
+  void SetBackColor(host::Color color);
+  const Variant& ExtraData() const { return extraData_; }
+  void SetExtraData(const Variant& data) { extraData_ = data; }
+
+  // The first argument is the page's index.
+  Event<std::int32_t&, std::int32_t&> ItemGotFocus;
+  Event<std::int32_t&, std::int32_t&> ItemLostFocus;
+  Event<std::int32_t&, std::int32_t&, std::int16_t&> ItemMenuClick;
+  Event<std::int32_t&, std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyDown;
+  Event<std::int32_t&, std::int32_t&, std::int16_t&> ItemKeyPress;
+  Event<std::int32_t&, std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyUp;
+  Event<std::int32_t&, std::int32_t&> ActionLayout;
+  Event<std::int32_t&, std::int32_t&> ActionClick;
+  Event<std::int32_t&, std::int32_t&> ParameterLayout;
+  Event<std::int32_t&, std::int32_t&> ParameterChange;
+  Event<std::int32_t&, std::int32_t&, std::int16_t&> ParameterItemCheck;
+  Event<std::int32_t&, std::int32_t&> ParameterIcon1Click;
+  Event<std::int32_t&, std::int32_t&> ParameterIcon2Click;
+  Event<std::int32_t&, std::int32_t&> ParameterClick;
+  Event<std::int32_t&, std::int32_t&> ParameterStartEdit;
+  Event<std::int32_t&, std::int32_t&, bool&> ParameterEndEdit;
+  Event<std::int32_t&, std::int32_t&> ParameterStatusChange;
+  Event<std::int32_t&, std::int32_t&> ButtonLayout;
+  Event<std::int32_t&, std::int32_t&> ButtonClick;
+  /// What a listener makes of a key here is what the page goes on with.
+  Event<std::int32_t&, std::int16_t&, std::int16_t&> KeyDown;
+  Event<std::int32_t&, std::int16_t&> KeyPress;
+  Event<std::int32_t&, std::int16_t&, std::int16_t&> KeyUp;
+  Event<std::int32_t> PageLayout;
+  Event<std::int32_t> PageActivate;
+  Event<std::int32_t> PageDeactivate;
+  /// The second argument is a cancel that the listener sets.
+  Event<std::int32_t, bool&> PageClose;
+
+  void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
+  void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  host::Control* nextTabStop(host::Control* from, bool forward) override;
+
+ protected:
+  void initialize() override;
+  void resize() override { layOutAll(); }
+  void show() override;
+  void terminate() override;
+  void realised() override { settleScrollBars(); }
+
+ private:
+  friend class clsDisplayPage;
+  friend struct PageRoutes;
+  friend struct QRNDisplayStackTable;
+  using Page = std::shared_ptr<clsDisplayPage>;
+
+  void storeIndent(std::int32_t& field, std::int32_t indent, std::string_view key);
+  const Page& page(std::int32_t index) const { return pages_.at(index); }
+  bool isTop(const clsDisplayPage& page) const { return page.isOpen() && page.PageIndex() == Count(); }
+  /// Whether there is a page that takes all input until it is closed.
+  bool hasDialog() const;
+  /// What is done to a page may let listeners run, which may do anything: each page is looked up when its
+  /// turn comes. Answers whether the stack is still there.
+  bool forPages(std::int32_t first, std::int32_t last, const std::function<void(clsDisplayPage&)>& work);
+
+  // ---- places ----
+  void layOut(clsDisplayPage& page, bool maximized);
+  void layOutAll();
+  void maximize(std::int32_t index);
+  void restore(std::int32_t index);
+  void settleScrollBars();
+
+  // ---- pages come and go (QRNDisplayStack_pages.cpp) ----
+  Page makePage(const std::string& name);
+  void dress(QRNDisplay& display, std::int32_t index, const std::string& title, bool modal);
+  void cover(const Page& below, const Page& above);
+  enum class Closed : std::uint8_t { Nothing, Some, SomeUnderAnother };
+  Closed closeAbove(std::int32_t index);
+  void close(const Page& page);
+  void enableDownToDialog();
+  void uncoverTop();
+
+  SelectableList<clsDisplayPage> pages_;
+  QRNImageList* imageList_ = nullptr;
+  Variant extraData_;
+  std::int32_t leftIndent_ = 10;
+  std::int32_t topIndent_ = 20;
+  bool hideDisabledControls_ = true;
+  bool pressed_ = false;
+};
+
+}  // namespace qrn

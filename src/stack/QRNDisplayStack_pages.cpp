@@ -1,0 +1,153 @@
+#include <algorithm>
+
+#include "diag/DebugTrace.h"
+#include "runtime/errors.h"
+#include "stack/QRNDisplayStack.h"
+
+namespace qrn {
+namespace {
+
+constexpr std::int32_t kTraceLevel = 0;
+
+}  // namespace
+
+// ---- a page comes ----
+
+QRNDisplay* QRNDisplayStack::AddPage(const std::string& PageName, const std::string& Title, bool bModal) {
+  const Page added = makePage(PageName.empty() ? pages_.freeKey("Page") : PageName);
+  if (!added) return nullptr;
+  const std::int32_t index = added->PageIndex();
+  const WeakRef<Control> self(this);
+  // Whoever hears of it may close the page, or put another one on it.
+  const auto there = [&] { return self && added->isOpen(); };
+
+  dress(*added->Control(), index, Title, bModal);
+  raise(PageLayout, "PageLayout", index);
+  if (!there()) return nullptr;
+  if (isTop(*added)) bringToFront(*added->Control());
+  if (index > 1)
+    cover(page(index - 1), added);
+  else
+    layOut(*added, false);
+  if (!there()) return nullptr;
+  if (bModal) {
+    for (std::int32_t k = 1; k < index; ++k) page(k)->Control()->SetEnabled(false);
+  }
+  settleScrollBars();
+  if (isTop(*added)) raise(PageActivate, "PageActivate", index);
+  return there() ? added->Control() : nullptr;
+}
+
+QRNDisplayStack::Page QRNDisplayStack::makePage(const std::string& name) {
+  host::Control* control = nullptr;
+  const auto page = std::make_shared<clsDisplayPage>();
+  const bool made = ignoringErrors([&] {
+    control = &controls().add("QRNV16Controls2.QRNDisplay", name, *this);
+    pages_.add(name, page, {});
+  });
+  if (made) {
+    page->Attach(static_cast<QRNDisplay&>(*control), Count());
+    return page;
+  }
+  if (control) controls().remove(name);
+  return nullptr;
+}
+
+// The first page has nowhere to go back to, and nothing to be larger than.
+void QRNDisplayStack::dress(QRNDisplay& display, std::int32_t index, const std::string& title, bool modal) {
+  display.SetImageList(imageList_);
+  display.SetIconCloseHidden(index == 1 && !modal);
+  display.SetIconMaxRstHidden(index == 1);
+  display.SetTitle(title);
+  display.SetBorderStyle(modal ? qrnEdgeBorder : qrnEdgeEngraved);
+  display.SetTitleStyle(modal ? qrnTitleDialog : qrnTitleStandard);
+}
+
+void QRNDisplayStack::cover(const Page& below, const Page& above) {
+  const WeakRef<Control> self(this);
+  const Page covered = below;
+  const auto there = [&] { return self && covered->isOpen(); };
+  layOut(*above, covered->Control()->Maximized());
+  if (!there()) return;
+  // The keyboard goes along with what can't be seen any more, and leaves what can.
+  if (hideDisabledControls_) covered->Control()->ControlsContainer().SetVisible(false);
+  if (there() && covered->Control()->hasFocus()) input().setFocus(nullptr);
+  if (!there()) return;
+  covered->Control()->SetActive(false);
+  raise(PageDeactivate, "PageDeactivate", covered->PageIndex());
+}
+
+// ---- pages go ----
+
+void QRNDisplayStack::ActivatePage(std::int32_t PageIndex) {
+  if (PageIndex >= Count()) return;
+  const WeakRef<Control> self(this);
+  const Closed closed = closeAbove(PageIndex);
+  if (!self || closed == Closed::Nothing || Count() == 0) return;
+  enableDownToDialog();
+  if (closed == Closed::Some) uncoverTop();
+}
+
+// Each page is asked once. A listener may have closed it itself, and then its turn is over; or it has put
+// another page on it, and then it stays where it is.
+QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index) {
+  const WeakRef<Control> self(this);
+  Closed closed = Closed::Nothing;
+  for (std::int32_t k = Count(); k > std::max(index, 0); --k) {
+    if (k > Count()) continue;
+    const Page asked = page(k);
+    bool cancel = false;
+    raise(PageClose, "PageClose", k, cancel);
+    if (!self) return closed;
+    if (!asked->isOpen()) continue;
+    if (!isTop(*asked)) return closed == Closed::Nothing ? closed : Closed::SomeUnderAnother;
+    if (cancel) return closed;
+    close(asked);
+    if (!self) return closed;
+    closed = Closed::Some;
+  }
+  return closed;
+}
+
+void QRNDisplayStack::close(const Page& page) {
+  const WeakRef<Control> self(this);
+  const std::string name(page->Control()->Name());
+  DebugTrace("Close Page =" + std::to_string(page->PageIndex()) + " " + name, kTraceLevel);
+  const std::int32_t index = page->PageIndex();
+  controls().remove(name);
+  if (!self) return;
+  pages_.take(index);
+  settleScrollBars();
+  DebugTrace("Close Page done", kTraceLevel);
+}
+
+// Those below the uppermost dialog stay as they are.
+void QRNDisplayStack::enableDownToDialog() {
+  for (std::int32_t k = Count(); k >= 1; --k) {
+    QRNDisplay& display = *page(k)->Control();
+    display.SetEnabled(true);
+    if (display.TitleStyle() == qrnTitleDialog) return;
+  }
+}
+
+void QRNDisplayStack::uncoverTop() {
+  const WeakRef<Control> self(this);
+  const Page top = page(Count());
+  const auto there = [&] { return self && isTop(*top); };
+  top->Control()->SetActive(true);
+  top->Control()->ControlsContainer().SetVisible(true);
+  if (there()) top->Control()->SetItemFocus(Variant(0));
+  if (!there()) return;
+  DebugTrace("RaiseEvent PageActivate", kTraceLevel);
+  raise(PageActivate, "PageActivate", top->PageIndex());
+  DebugTrace("RaiseEvent PageActivate DONE", kTraceLevel);
+}
+
+void QRNDisplayStack::terminate() {
+  while (Count() > 0) {
+    const Page top = pages_.take(Count());
+    controls().remove(std::string(top->Control()->Name()));
+  }
+}
+
+}  // namespace qrn

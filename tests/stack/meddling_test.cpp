@@ -1,0 +1,193 @@
+#include <functional>
+#include <stdexcept>
+
+#include "stack_fixture.h"
+
+// Listeners that change the stack while it is changing.
+
+namespace qrn::test {
+namespace {
+
+class Meddling : public StackTest {
+ protected:
+  /// Exactly one page is active, the top one, and those below the uppermost modal one are disabled.
+  void expectInOrder() {
+    const std::int32_t count = stack().Count();
+    EXPECT_EQ(activePages(stack()),
+              std::string(static_cast<std::size_t>(std::max(count - 1, 0)), '.') + (count > 0 ? "A" : ""));
+    std::int32_t dialog = 0;
+    for (std::int32_t i = 1; i <= count; ++i) {
+      EXPECT_EQ(page(i).ControlsContainer().Visible(), i == count) << i;
+      if (page(i).TitleStyle() == qrnTitleDialog) dialog = i;
+    }
+    for (std::int32_t i = 1; i <= count; ++i) EXPECT_EQ(page(i).Enabled(), i >= dialog) << i;
+    if (count == 0) return;
+    EXPECT_EQ(stack().contained().back(), &page(count)) << "the top page is in front";
+  }
+
+  /// Once, so that what it does itself is left alone.
+  std::function<void()> once(std::function<void()> action) {
+    return [action = std::move(action), done = false]() mutable {
+      if (!std::exchange(done, true)) action();
+    };
+  }
+};
+
+TEST_F(Meddling, APageMayBeClosedWhileItIsLaidOut) {
+  add();
+  keep = stack().PageLayout.connect([&](std::int32_t index) { stack().ActivatePage(index - 1); });
+  take();
+  EXPECT_EQ(add(true), nullptr);
+  EXPECT_EQ(stack().Count(), 1);
+  expectInOrder();
+}
+
+TEST_F(Meddling, APageMayGetAnotherOneWhileItIsLaidOut) {
+  add();
+  keep = stack().PageLayout.connect(
+      [&, another = once([&] { add(true); })](std::int32_t) mutable { another(); });
+  QRNDisplay* added = add();
+  EXPECT_EQ(added, &page(2));
+  EXPECT_EQ(stack().Count(), 3);
+  expectInOrder();
+  EXPECT_EQ(page(2).bounds(), (Rect{10, 20, 390, 280}));
+}
+
+TEST_F(Meddling, APageMayBeAddedWhenOneIsCovered) {
+  add();
+  keep = stack().PageDeactivate.connect(
+      [&, another = once([&] { add(); })](std::int32_t) mutable { another(); });
+  add(true);
+  EXPECT_EQ(stack().Count(), 3);
+  expectInOrder();
+}
+
+TEST_F(Meddling, ThePagesMayBeClosedWhenOneIsCovered) {
+  add();
+  keep = stack().PageDeactivate.connect([&](std::int32_t) { stack().ActivatePage(0); });
+  EXPECT_EQ(add(true), nullptr);
+  EXPECT_EQ(stack().Count(), 0);
+}
+
+TEST_F(Meddling, APageMayBeAddedOrClosedWhenOneIsActivated) {
+  keep =
+      stack().PageActivate.connect([&, another = once([&] { add(); })](std::int32_t) mutable { another(); });
+  add();
+  EXPECT_EQ(stack().Count(), 2);
+  expectInOrder();
+  keep = stack().PageActivate.connect([&](std::int32_t index) { stack().ActivatePage(index - 1); });
+  EXPECT_EQ(add(), nullptr);
+  EXPECT_EQ(stack().Count(), 0) << "each page that came up was closed in its turn";
+}
+
+TEST_F(Meddling, APageMayBeClosedByTheOneWhoIsAskedForIt) {
+  addPages("....");
+  keep = stack().PageClose.connect(
+      [&, close = once([&] { stack().ActivatePage(3); })](std::int32_t, bool&) mutable { close(); });
+  stack().ActivatePage(2);
+  EXPECT_EQ(stack().Count(), 2);
+  expectInOrder();
+}
+
+TEST_F(Meddling, AQuestionPutOnThePageThatIsClosedKeepsThePage) {
+  addPages("...");
+  keep = stack().PageClose.connect([&, question = once([&] {
+                                         stack().AddPage("question", "Discard the changes?", true);
+                                       })](std::int32_t, bool&) mutable { question(); });
+  stack().ActivatePage(1);
+  EXPECT_EQ(stack().Count(), 4);
+  EXPECT_EQ(page(4).Name(), "question");
+  expectInOrder();
+}
+
+TEST_F(Meddling, AQuestionPutOnALowerPageEndsTheClosing) {
+  addPages("..m.");
+  keep = stack().PageClose.connect([&, question = once([&] { add(); })](std::int32_t index, bool&) mutable {
+    if (index == 2) question();
+  });
+  take();
+  stack().ActivatePage(1);
+  EXPECT_EQ(stack().Count(), 3);
+  expectInOrder();
+  EXPECT_EQ(take().back(), "PageClose(2, False)") << "the question was activated when it came";
+}
+
+TEST_F(Meddling, AFailingListenerKeepsThePageThatItWasAskedFor) {
+  addPages("...");
+  keep = stack().PageClose.connect([&](std::int32_t index, bool&) {
+    if (index == 3) throw std::runtime_error("no");
+  });
+  EXPECT_THROW(stack().ActivatePage(1), std::runtime_error);
+  EXPECT_EQ(stack().Count(), 3);
+  expectInOrder();
+}
+
+TEST_F(Meddling, ThePagesMayGoWhileAKeyIsHandedOn) {
+  addPages("..");
+  keep =
+      stack().KeyDown.connect([&](std::int32_t&, std::int16_t&, std::int16_t&) { stack().ActivatePage(0); });
+  page(2).ControlsContainer().SetFocus();
+  user->presses(host::key::F1);
+  EXPECT_EQ(stack().Count(), 0);
+}
+
+TEST_F(Meddling, APageMayGoWhenItsItemGetsTheFocus) {
+  QRNEdit& row = addRow(*add());
+  keep = stack().ItemGotFocus.connect([&](std::int32_t&, std::int32_t&) { stack().ActivatePage(0); });
+  user->focuses(row);
+  EXPECT_EQ(stack().Count(), 0);
+}
+
+// ---- the stack itself goes ----
+
+class Destroying : public Meddling {
+ protected:
+  void expectGone(const std::function<void()>& action) {
+    action();
+    EXPECT_EQ(stack_, nullptr);
+  }
+};
+
+TEST_F(Destroying, FromThePageEventsOfAnAddedPage) {
+  add();
+  keep = stack().PageLayout.connect([&](std::int32_t) { destroyStack(); });
+  expectGone([&] { EXPECT_EQ(add(), nullptr); });
+}
+
+TEST_F(Destroying, WhenAPageIsCovered) {
+  add();
+  keep = stack().PageDeactivate.connect([&](std::int32_t) { destroyStack(); });
+  expectGone([&] { EXPECT_EQ(add(true), nullptr); });
+}
+
+TEST_F(Destroying, WhenAPageIsActivated) {
+  keep = stack().PageActivate.connect([&](std::int32_t) { destroyStack(); });
+  expectGone([&] { EXPECT_EQ(add(true), nullptr); });
+}
+
+TEST_F(Destroying, WhenAPageIsAskedFor) {
+  addPages("...");
+  keep = stack().PageClose.connect([&](std::int32_t index, bool&) {
+    if (index == 2) destroyStack();
+  });
+  expectGone([&] { stack().ActivatePage(1); });
+}
+
+TEST_F(Destroying, ByTheCloseButton) {
+  addPages("..");
+  keep = stack().PageActivate.connect([&](std::int32_t) { destroyStack(); });
+  headless::User* closer = user.release();
+  const std::unique_ptr<headless::User> guard(closer);
+  closer->clicks(page(2).imgClose());
+  EXPECT_EQ(stack_, nullptr);
+}
+
+TEST_F(Destroying, WhenTheEditOfACoveredPageEnds) {
+  QRNEdit& row = addRow(*add());
+  user->focuses(row);
+  keep = stack().ParameterEndEdit.connect([&](std::int32_t&, std::int32_t&, bool&) { destroyStack(); });
+  expectGone([&] { EXPECT_EQ(add(true), nullptr); });
+}
+
+}  // namespace
+}  // namespace qrn::test
