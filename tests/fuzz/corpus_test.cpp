@@ -13,6 +13,7 @@
 #include "fuzz/like_promises.h"
 #include "fuzz/number_text_promises.h"
 #include "fuzz/property_bag_promises.h"
+#include "fuzz/rich_text_promises.h"
 
 namespace qrn::fuzz {
 namespace {
@@ -62,6 +63,8 @@ INSTANTIATE_TEST_SUITE_P(LikePatterns, Corpus, testing::ValuesIn(inputsOf("like"
 INSTANTIATE_TEST_SUITE_P(NumberTexts, Corpus,
                          testing::ValuesIn(inputsOf("number_text", &brokenNumberTextPromise)), nameOf);
 INSTANTIATE_TEST_SUITE_P(DateTexts, Corpus, testing::ValuesIn(inputsOf("date_text", &brokenDateTextPromise)),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(RichTexts, Corpus, testing::ValuesIn(inputsOf("rich_text", &brokenRichTextPromise)),
                          nameOf);
 
 }  // namespace

@@ -1,6 +1,8 @@
 // How much work hostile patterns and texts of 100,000 characters can make.
 #include <gtest/gtest.h>
 
+#include "richtext/rtf_reader.h"
+#include "richtext/rtf_writer.h"
 #include "runtime/conversions.h"
 #include "runtime/errors.h"
 #include "runtime/format.h"
@@ -123,6 +125,76 @@ TEST(Work, OfReadingNumbersAndDatesGrowsNoFasterThanTheText) {
       };
       EXPECT_EQ(brokenGrowth(piece, kLength, convert), "") << start << " and then " << piece;
     }
+  }
+}
+
+TEST(Work, OfReadingRichTextGrowsNoFasterThanTheText) {
+  for (const char* piece : {"{",
+                            "}",
+                            "{}",
+                            "{\\b a}",
+                            "\\",
+                            "\\par",
+                            "\\par ",
+                            "\\b a\\b0 b",
+                            "a",
+                            "a b ",
+                            "\xff",
+                            "\xc3\xa4",
+                            "\\'e4",
+                            "\\'",
+                            "\\u8364?",
+                            "\\uc9\\u8364 ",
+                            "\\*",
+                            "{\\*\\x a",
+                            "\\tx9",
+                            "\\tx9\\par",
+                            "\\f1 a",
+                            "\\bin1 a",
+                            "\\bin9",
+                            "{\\pict",
+                            "{\\fonttbl{\\f0 A;}}",
+                            "{\\fonttbl",
+                            "\\cf1a",
+                            "{\\colortbl;}",
+                            "\\b",
+                            "letters",
+                            "9",
+                            "-",
+                            "{\\*\\pn\\pnlvlblt}",
+                            "\r\n"}) {
+    for (const char* start :
+         {"", "{\\fonttbl", "{\\fonttbl{\\f0 ", "{\\colortbl", "{\\*\\x", "\\uc100000", "\\b"}) {
+      const auto read = [&](std::string_view end) {
+        richtext::readRtf("{\\rtf1" + std::string(start) + std::string(end));
+      };
+      EXPECT_EQ(brokenGrowth(piece, kLength, read), "") << start << " and then " << piece;
+    }
+  }
+}
+
+TEST(Work, OfReadingAMegabyteOfRichTextIsBounded) {
+  constexpr std::uint64_t kSteps = 2000;  // for one byte, checks of a sanitizer included
+  for (const char* piece : {"{\\b a}", "\\par", "{", "\\f0a\\f1b", "a", "\\\n"}) {
+    const std::string rtf = "{\\rtf1" + repeated(piece, 1000000);
+    EXPECT_LE(stepsOf([&] { richtext::readRtf(rtf); }), kSteps * rtf.size()) << piece;
+  }
+}
+
+TEST(Work, OnADocumentGrowsNoFasterThanItsText) {
+  using namespace richtext;
+  for (const char* piece : {"a", "{\\b a}b", "a\\par ", "\\'e4", "\\par{\\i a}"}) {
+    const auto change = [](std::string_view end) {
+      Document document = *readRtf("{\\rtf1 " + std::string(end));
+      const Range middle{document.length() / 3, document.length() / 3};
+      document.set(middle, &CharFormat::underline, true);
+      document.set(middle, &ParagraphFormat::bullet, true);
+      document.uniform(middle, &CharFormat::halfPoints);
+      document.formatAt(document.length());
+      document.replace(middle, document.part(middle));
+      writeRtf(document);
+    };
+    EXPECT_EQ(brokenGrowth(piece, kLength, change), "") << piece;
   }
 }
 
