@@ -106,6 +106,11 @@ class Control : public Object {
   /// Draws the control itself, not what it contains; `size` is in pixels.
   virtual void paint(Surface&, Size /*size*/) {}
   virtual bool acceptsFocus() const { return false; }
+  /// Notches away from the user are positive. Answers whether the control scrolls.
+  virtual bool wheel(double /*notches*/) { return false; }
+  /// A key that no listener has taken, for a control that has no native widget to take it. Answers whether it
+  /// is used up.
+  virtual bool userKeyed(std::int16_t /*keyCode*/, std::int16_t /*shift*/) { return false; }
   /// Where the focus goes that is given to this control.
   virtual Control* focusTarget() { return acceptsFocus() ? this : nullptr; }
   virtual std::intptr_t windowMessage(const Message& message);

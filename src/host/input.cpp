@@ -201,8 +201,7 @@ void Input::mouseUp(MouseButton button, std::int16_t shiftState, Point at) {
 
 bool Input::wheel(Point at, double notches) {
   for (WeakRef<Control> target(hit(at)); target; target = WeakRef<Control>(target->Container())) {
-    auto* user = asUserControl(target.get());
-    if (user && user->wheel(notches)) return true;
+    if (target->wheel(notches)) return true;
     if (!target) return true;
   }
   return false;
@@ -236,12 +235,14 @@ Control* Input::keyReceiver() const {
 bool Input::keyDown(std::int16_t keyCode, std::int16_t shiftState) {
   const WeakRef<Control> root(root_);
   Control* const target = keyReceiver();
+  const WeakRef<Control> guard(target);
   const std::int16_t given = keyCode;
   if (auto* user = asUserControl(target))
     user->keyDown(keyCode, shiftState);
   else if (target && target->Parent())
     target->Parent()->childKeyDown(*target, keyCode, shiftState);
   if (!root || keyCode == 0) return true;
+  if (guard && !guard->peer() && guard->userKeyed(keyCode, shiftState)) return true;
   if (given == key::Tab && (shiftState & (shift::Control | shift::Alt)) == 0) {
     return moveFocus((shiftState & shift::Shift) == 0);
   }

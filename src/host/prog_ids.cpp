@@ -5,6 +5,7 @@
 #include "host/combo_box.h"
 #include "host/command_button.h"
 #include "host/list_box.h"
+#include "host/rich_text_box.h"
 #include "host/text_box.h"
 #include "host/timer.h"
 #include "host/v_scroll_bar.h"
@@ -26,6 +27,7 @@ constexpr ProgId kStandardClasses[] = {
     {"VB.VScrollBar", make<VScrollBar>},
     {"VB.Timer", make<Timer>},
     {"VB.CommandButton", make<CommandButton>},
+    {"RICHTEXT.RichtextCtrl", make<RichTextBox>},
 };
 
 std::span<const ProgId> controlClasses;

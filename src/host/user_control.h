@@ -62,7 +62,6 @@ class UserControl : public ContainerControl, public Site {
   /// The second press of a quick double click; the release follows. A press like any other unless told
   /// otherwise.
   virtual void doubleClick(Point at) { mouseDown(MouseButton::Left, 0, at); }
-  virtual bool wheel(double /*notches*/) { return false; }
   virtual void keyDown(std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}
   virtual void keyPress(std::int16_t& /*keyAscii*/) {}
   virtual void keyUp(std::int16_t& /*keyCode*/, std::int16_t& /*shift*/) {}
