@@ -122,6 +122,12 @@ std::intptr_t RichTextBox::windowMessage(const Message& message) {
   return Editor::windowMessage(message);
 }
 
+// The system's text colour need not fit to a background of the box's own any more than those of the text do.
+Color RichTextBox::colorOf(const CharFormat& format) const {
+  if (!Enabled()) return textColor();
+  return readableOn(platform().resolve(format.color.value_or(textColor())), platform().resolve(BackColor()));
+}
+
 void RichTextBox::paint(Surface& surface, Size size) {
   surface.fill({0, 0, size.width, size.height}, BackColor());
   paintText(surface, size);
@@ -129,15 +135,13 @@ void RichTextBox::paint(Surface& surface, Size size) {
 }
 
 void RichTextBox::paintText(Surface& surface, Size size) {
-  surface.enter({kMargin, kMargin, size.width - 2 * kMargin, size.height - 2 * kMargin});
+  surface.enter({kMargin, 0, size.width - 2 * kMargin, size.height});
   const Rect seen = surface.visible();
-  const double scrolled = scrolledBy();
-  const Color background = platform().resolve(BackColor());
+  const double scrolled = scrolledBy() - kMargin;
   for (const auto& line : layout().linesBetween(seen.top + scrolled, seen.bottom() + scrolled)) {
     for (const auto& piece : line.pieces) {
-      const bool own = piece.format->color && Enabled();
-      const Color color = own ? readableOn(*piece.format->color, background) : textColor();
-      surface.text({piece.left, piece.top - scrolled}, piece.text, fontOf(*piece.format), color);
+      surface.text({piece.left, piece.top - scrolled}, piece.text, fontOf(*piece.format),
+                   colorOf(*piece.format));
     }
   }
   surface.leave();
@@ -148,7 +152,9 @@ void RichTextBox::paintThumb(Surface& surface, Size size) {
   if (furthest() == 0) return;
   const double height = std::max(kSmallestThumb, size.height * size.height / (size.height + furthest()));
   const double top = (size.height - height) * scrolledBy() / furthest();
-  surface.fill({size.width - kThumb, top, kThumb, height}, kButtonShadow);
+  constexpr double kFaint = 0.4;
+  const Color color = mixed(platform().resolve(BackColor()), colorOf({}), kFaint);
+  surface.fill({size.width - kThumb, top, kThumb, height}, color);
 }
 
 }  // namespace qrn::host

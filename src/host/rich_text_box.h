@@ -98,6 +98,7 @@ class RichTextBox final : public Editor {
  private:
   richtext::CharFormat ownFormat() const;
   host::Font fontOf(const richtext::CharFormat& format) const;
+  Color colorOf(const richtext::CharFormat& format) const;
   void show(richtext::Document document);
   void replaceSelection(const richtext::Document& by);
   void documentChanged();

@@ -198,7 +198,7 @@ const CharFormat& RtfReader::format() {
   if (!format_) {
     const RtfState::Characters& now = state_.characters;
     format_ = {.font = fonts_.name(now.font == kDefaultFont ? defaultFont_ : now.font),
-               .halfPoints = now.halfPoints,
+               .halfPoints = state_.halfPoints(),
                .offset = state_.offset(),
                .color = colors_.color(now.color),
                .bold = now.bold,

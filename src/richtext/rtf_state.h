@@ -41,6 +41,7 @@ struct RtfState {
   std::int32_t unicodeFallback = 1;  // what stands behind a \u for readers that don't know it
   Destination destination = Destination::Text;
 
+  std::int32_t halfPoints() const;
   std::int32_t offset() const;
   ParagraphFormat paragraphFormat() const;
   /// Takes a word that formats characters or paragraphs; any other one changes nothing.

@@ -106,7 +106,8 @@ TEST(ReadingRtf, RaisesAndLowers) {
   EXPECT_EQ(formatOf("\\up8\\up0 x").offset, 0);
   EXPECT_EQ(formatOf("\\super\\fs24 x").offset, 80) << "a third of the size";
   EXPECT_EQ(formatOf("\\fs24\\sub x").offset, -40);
-  EXPECT_EQ(formatOf("\\super\\nosupersub x").offset, 0);
+  EXPECT_EQ(formatOf("\\fs24\\super x").halfPoints, 16) << "two thirds of it";
+  EXPECT_EQ(formatOf("\\super\\nosupersub x"), CharFormat());
 }
 
 TEST(ReadingRtf, GivesFormatsBackAtTheEndOfAGroup) {
