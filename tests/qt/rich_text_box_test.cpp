@@ -42,6 +42,8 @@ class RichTextBoxes : public testing::Test {
     for (int i = 0; i < 20; ++i) lines += std::to_string(i) + "\r\n";
     help->box.SetText(lines);
     canvas->show();
+    canvas->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(canvas.get()));
   }
 
   QtPlatform platform;
