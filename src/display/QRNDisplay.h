@@ -202,6 +202,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
 
  private:
   friend class clsQRNAction;
+  friend class clsQRNCollection;
   friend class clsQRNParam;
   friend class PanelItem;
   friend struct QRNDisplayTable;
@@ -253,7 +254,10 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void itemGotFocus(const PanelItem& item);
   void bringIntoView(const host::Control& control);
   void startEditCycle(const PanelItem& item);
-  void endEditCycle(std::int32_t index, bool changed);
+  void endEditCycle(const PanelItem& item, bool changed);
+  void releaseEditCycle();
+  bool isEdited(const PanelItem& item) const { return editing_ && edited_.lock().get() == &item; }
+  void itemLeaves(const PanelItem& item);
   void passiveClick() { raise(Click, "Click"); }
   void toggleMaximized();
   void hover(const host::Control* titleButton);
@@ -290,7 +294,8 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   std::int32_t horizontalSpacing_ = -1;
   std::int32_t menuItemHeight_ = -1;
   std::int32_t buttonsAlignment_ = 1;
-  std::int32_t editIndex_ = 0;
+  std::weak_ptr<const PanelItem> edited_;  // while it is in the panel
+  std::int32_t editIndex_ = 0;             // where it was then
   qrnEdgeType borderStyle_ = qrnEdgeEngraved;
   qrnTitleStyle titleStyle_ = qrnTitleStandard;
   double titleHeight_ = 0;

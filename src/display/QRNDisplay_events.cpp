@@ -1,7 +1,10 @@
+#include <utility>
+
 #include "display/QRNDisplay.h"
 #include "runtime/errors.h"
 
 namespace qrn {
+
 void QRNDisplay::raiseItem(Event<std::int32_t&>& event, std::string_view name, const PanelItem& item) {
   std::int32_t index = item.position();
   raise(event, name, index);
@@ -28,19 +31,38 @@ void QRNDisplay::bringIntoView(const host::Control& control) {
 
 void QRNDisplay::startEditCycle(const PanelItem& item) {
   const WeakRef<host::Control> self(this);
-  if (editing_ && editIndex_ != item.position()) endEditCycle(editIndex_, editChanged_);
+  if (!isEdited(item)) releaseEditCycle();
   // Who heard of that end may have moved the item or removed it.
   if (!self || editing_ || item.position() == 0) return;
   editing_ = true;
+  edited_ = item.weak_from_this();
   editIndex_ = item.position();
   editChanged_ = false;
   raiseItem(ParameterStartEdit, "ParameterStartEdit", item);
 }
 
-void QRNDisplay::endEditCycle(std::int32_t index, bool changed) {
-  if (index != editIndex_ || !editing_) return;
+void QRNDisplay::endEditCycle(const PanelItem& item, bool changed) {
+  if (!isEdited(item)) return;
+  editChanged_ = changed;
+  releaseEditCycle();
+}
+
+// The position is that of now: items before it may have come or gone meanwhile.
+void QRNDisplay::releaseEditCycle() {
+  if (!editing_) return;
   editing_ = false;
+  const auto item = edited_.lock();
+  std::int32_t index = item ? item->position() : editIndex_;
+  bool changed = std::exchange(editChanged_, false);
+  edited_.reset();
   raise(ParameterEndEdit, "ParameterEndEdit", index, changed);
+}
+
+// Its edit goes on, for the next start of another one to end it at the place that it had.
+void QRNDisplay::itemLeaves(const PanelItem& item) {
+  if (!isEdited(item)) return;
+  editIndex_ = item.position();
+  edited_.reset();
 }
 
 // ---- the panel's own ----

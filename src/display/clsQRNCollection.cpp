@@ -63,7 +63,9 @@ void clsQRNCollection::removeAt(std::int32_t position) {
   if (const host::Control* control = item->control())
     Display().ControlsCollection().remove(std::string(control->Name()));
   // A listener may have moved it, or taken it out itself.
-  if (item->position() != 0) items_.take(item->position());
+  if (item->position() == 0) return;
+  Display().itemLeaves(*item);
+  items_.take(item->position());
 }
 
 void clsQRNCollection::RemoveAll() {

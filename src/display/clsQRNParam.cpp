@@ -166,9 +166,9 @@ void clsQRNParam::controlEvent(std::string_view name, host::EventArgs arguments)
   else if (name == "StartEdit")
     owner->startEditCycle(*this);
   else if (name == "EndEdit")
-    owner->endEditCycle(position(), arguments[0].as<bool>());
+    owner->endEditCycle(*this, arguments[0].as<bool>());
   else if (name == "AppLostFocus")
-    owner->endEditCycle(owner->editIndex_, owner->editChanged_);
+    owner->releaseEditCycle();
   else if (name == "BackgroundClick" || name == "LabelClick" || name == "UnitClick")
     owner->passiveClick();
   else if (name == "ItemCheck") {

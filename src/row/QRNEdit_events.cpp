@@ -132,14 +132,14 @@ void QRNEdit::mouseUp(host::MouseButton button, std::int16_t, Point at) {
   if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;
-  if (inside) raise(BackgroundClick, "BackgroundClick");
+  if (inside && Enabled()) raise(BackgroundClick, "BackgroundClick");
 }
 
 void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point) {
   if (button != host::MouseButton::Left || !Enabled()) return;
   leftPressed_ = true;
   // The caption of a Boolean parameter works its check box.
-  if (&child == &lblLabel_ && chkValue_ && !locked_) {
+  if (&child == &lblLabel_ && chkValue_ && chkValue_->shown() && !locked_) {
     const WeakRef<QRNEdit> self(this);
     SetFocus();
     if (self && chkValue_) chkValue_->Check().userToggled();
@@ -164,7 +164,7 @@ void QRNEdit::childMouseUp(host::Control& child, host::MouseButton button, std::
   leftPressed_ = false;
   const Icon* icon = iconOf(child);
   if (icon && icon->mode != qrnbuttonNone) invalidate();
-  if (inside) clickOn(child);
+  if (inside && Enabled()) clickOn(child);
 }
 
 void QRNEdit::clickOn(host::Control& child) {

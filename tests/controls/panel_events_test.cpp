@@ -289,6 +289,47 @@ TEST_F(PanelEvents, StartingAnEditEndsTheOneInAnotherRowFirst) {
             (Events{"ParameterStartEdit(1)", "ParameterEndEdit(1, False)", "ParameterStartEdit(2)"}));
 }
 
+TEST_F(PanelEvents, AnEditEndsAtThePositionThatItsRowHasByThen) {
+  fill(3);
+  user->focuses(row(2));
+  user->types("x");
+  items().AddParameter("New", qrnTypeString, Variant(1));
+  startListening();
+  user->focuses(row(1));
+  EXPECT_EQ(events(), (Events{"ParameterEndEdit(3, True)", "ItemLostFocus(3)", "ParameterStartEdit(1)",
+                              "ItemGotFocus(1)"}));
+  items().Remove(Variant(2));
+  user->focuses(row(2));
+  EXPECT_EQ(events(), (Events{"ParameterEndEdit(1, False)", "ItemLostFocus(1)", "ParameterStartEdit(2)",
+                              "ItemGotFocus(2)"}));
+  items().Remove(Variant(1));
+  user->switchesAway();
+  EXPECT_EQ(events(), Events{"ParameterEndEdit(1, True)"});
+  user->comesBack();
+  EXPECT_EQ(events(), Events{"ParameterStartEdit(1)"});
+}
+
+TEST_F(PanelEvents, TheEditOfARemovedRowEndsWithTheNextStartEvenAtItsPlace) {
+  fill(3);
+  user->focuses(row(2));
+  items().Remove(Variant(2));
+  startListening();
+  user->focuses(row(2));
+  EXPECT_EQ(events(), (Events{"ParameterEndEdit(2, False)", "ParameterStartEdit(2)", "ItemGotFocus(2)"}));
+}
+
+TEST_F(PanelEvents, AcceptingAValueWhileItsStateChangesIsToldOnce) {
+  fill(1);
+  const auto accepting =
+      panel().ParameterStatusChange.connect([&](std::int32_t&) { row(1).SetValueChanged(false); });
+  user->focuses(row(1));
+  startListening();
+  user->types("x");
+  EXPECT_EQ(events(), (Events{"ItemKeyDown(1, 88, 0)", "ItemKeyPress(1, 120)", "ParameterStatusChange(1)",
+                              "ParameterStatusChange(1)", "ParameterChange(1)", "ItemKeyUp(1, 88, 0)"}));
+  EXPECT_FALSE(row(1).ValueChanged());
+}
+
 TEST_F(PanelEvents, ASecondStartOfTheSameRowRaisesNothing) {
   fill(1);
   row(1).ObjectEvent.raise("StartEdit", host::EventArgs());

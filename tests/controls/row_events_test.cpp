@@ -94,6 +94,22 @@ TEST_F(RowEvents, HaveAMenuWhoseTemplateIsOneAndTheSame) {
   EXPECT_FALSE(row().AddMenuItem("Help")->Enabled());
 }
 
+TEST_F(RowEvents, ComeFromNoRowThatIsDisabledBeforeTheRelease) {
+  user->pressesAt(headless::User::middleOf(row().lblLabel()));
+  row().SetEnabled(false);
+  user->releasesAt(headless::User::middleOf(row().lblLabel()));
+  EXPECT_EQ(raised(), Events{});
+}
+
+TEST_F(RowEvents, ComeFromACaptionAloneWhenItsCheckBoxIsHidden) {
+  useType(qrnTypeBoolean);
+  row().SetValueVisible(false);
+  raised();
+  user->clicks(row().lblLabel());
+  EXPECT_EQ(raised(), Events{"LabelClick"});
+  EXPECT_EQ(row().Value(), Variant(false));
+}
+
 TEST_F(RowEvents, ComeFromTheEditorsThatAreClicked) {
   useType(qrnTypeBoolean);
   user->clicks(checkBox());
