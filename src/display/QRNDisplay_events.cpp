@@ -52,7 +52,7 @@ void QRNDisplay::releaseEditCycle() {
   if (!editing_) return;
   editing_ = false;
   const auto item = edited_.lock();
-  std::int32_t index = item ? item->position() : editIndex_;
+  std::int32_t index = item && item->position() != 0 ? item->position() : editIndex_;
   bool changed = std::exchange(editChanged_, false);
   edited_.reset();
   raise(ParameterEndEdit, "ParameterEndEdit", index, changed);

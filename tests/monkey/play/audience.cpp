@@ -9,6 +9,13 @@
 namespace qrn::monkey {
 namespace {
 
+bool isIn(clsQRNCollection& items, const PanelItemPtr& item) {
+  for (const PanelItemPtr& one : items) {
+    if (one == item) return true;
+  }
+  return false;
+}
+
 // Item events begin with the position, a Long; keys and the like are Integers.
 std::int32_t indexIn() { return 0; }
 template <class First, class... Rest>
@@ -60,7 +67,7 @@ void Audience::sitsDown(QRNDisplay& panel) {
 void Audience::standsUp() {
   connections_.clear();
   deeds_.clear();
-  editedIndex_ = 0;
+  isEditing_ = false;
 }
 
 void Audience::leansOver(QRNEdit& row, std::int32_t position) {
@@ -82,8 +89,8 @@ void Audience::heard(std::string_view name, std::int32_t index) {
   meddle(index);
 }
 
-// The end of an edit carries the position at which the edit began, and a click of a footer button the one at
-// the time of the click; every other event is raised at an item that is there.
+// The end of an edit of an item that has gone carries the position that it had, and a click of a footer
+// button the one at the time of the click; every other event is raised at an item that is there.
 void Audience::checkPosition(std::string_view name, std::int32_t index) {
   const bool ofItem = name.starts_with("Item") || name.starts_with("Action") || name.starts_with("Parameter");
   if (!ofItem || name == "ParameterEndEdit" || !stage_.panel()) return;
@@ -96,12 +103,21 @@ void Audience::checkPosition(std::string_view name, std::int32_t index) {
 void Audience::checkEditCycle(std::string_view name, std::int32_t index) {
   const bool starts = name == "ParameterStartEdit";
   if (!starts && name != "ParameterEndEdit") return;
-  const bool proper = starts ? editedIndex_ == 0 : editedIndex_ == index && index != 0;
-  if (!proper)
-    stage_.complain("one row at a time is edited", std::string(name) + " " + std::to_string(index) +
-                                                       " while " + std::to_string(editedIndex_) +
-                                                       " is being edited");
-  editedIndex_ = starts ? index : 0;
+  const auto complain = [&](const char* rule, const std::string& otherwise) {
+    stage_.complain(rule, std::string(name) + " " + std::to_string(index) + otherwise);
+  };
+  if (starts == isEditing_)
+    complain("one row at a time is edited", isEditing_ ? " during another edit" : " of no edit");
+  isEditing_ = starts;
+  if (!stage_.panel()) return;
+  if (starts) {
+    edited_ = stage_.items().Item(Variant(index));
+    return;
+  }
+  // As long as the item is there the end finds it, wherever it has got to.
+  const PanelItemPtr item = edited_.lock();
+  if (item && isIn(stage_.items(), item) && stage_.items().Item(Variant(index)) != item)
+    complain("the end of an edit carries its item's position", " of another item");
 }
 
 void Audience::noteFocus(std::string_view name, std::int32_t index) {

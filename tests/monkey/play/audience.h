@@ -56,7 +56,8 @@ class Audience {
   Stage& stage_;
   std::vector<Connection> connections_;
   std::vector<Deed> deeds_;
-  std::int32_t editedIndex_ = 0;  // of the edit cycle that has begun and not ended; 0 for none
+  bool isEditing_ = false;  // an edit cycle has begun and not ended
+  std::weak_ptr<PanelItem> edited_;
   int deedsDone_ = 0;
   int deedsBefore_ = 0;
   Heard gotFocus_;
