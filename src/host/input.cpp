@@ -140,8 +140,10 @@ template <class Tell>
 Control* Input::press(MouseButton button, Point at, Tell&& tell) {
   if (!root_->Enabled()) return nullptr;
   const WeakRef<Control> root(root_);
-  // One that is down already has come up where nobody could see it.
-  if (holds(button)) releaseAll();
+  // One that is down already has come up where nobody could see it, and what is hidden or disabled can't have
+  // the mouse any longer.
+  const bool lost = capture_ && !(capture_->shown() && capture_->enabledUpToSurface());
+  if (holds(button) || lost) releaseAll();
   held_ = static_cast<std::int16_t>(held_ | static_cast<std::int16_t>(button));
   if (!capture_) capture_ = hit(at);
   const WeakRef<Control> target(capture_);

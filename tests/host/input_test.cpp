@@ -94,6 +94,19 @@ TEST_F(Mouse, StaysWithTheControlThatItWasPressedOnUntilItIsReleased) {
   EXPECT_EQ(heard(), (Heard{"surface MouseMove 0,0"}));
 }
 
+TEST_F(Mouse, IsFreeAgainWhenTheControlThatItWasPressedOnIsHiddenOrDisabled) {
+  user.pressesAt({17, 25}, host::MouseButton::Right);
+  label.SetVisible(false);
+  user.pressesAt({190, 140});
+  EXPECT_EQ(heard().back(), "surface MouseDown 1 190,140");
+  label.SetVisible(true);
+  user.releasesAt({190, 140});
+  user.pressesAt({17, 25}, host::MouseButton::Right);
+  label.SetEnabled(false);
+  user.pressesAt({190, 140});
+  EXPECT_EQ(heard().back(), "surface MouseDown 1 190,140");
+}
+
 TEST_F(Mouse, IsFreeAgainWhenTheControlThatItWasPressedOnGoes) {
   user.pressesAt({17, 25});
   row.controls().remove("label");
