@@ -40,7 +40,7 @@ QRNDisplay* QRNDisplayStack::AddPage(const std::string& PageName, const std::str
 
 QRNDisplayStack::Page QRNDisplayStack::makePage(const std::string& name) {
   host::Control* control = nullptr;
-  const auto page = std::make_shared<clsDisplayPage>();
+  auto page = std::make_shared<clsDisplayPage>();
   const bool made = ignoringErrors([&] {
     control = &controls().add("QRNV16Controls2.QRNDisplay", name, *this);
     pages_.add(name, page, {});

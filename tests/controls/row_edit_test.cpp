@@ -35,6 +35,14 @@ TEST_F(RowFocus, StartsNoEditOfALockedRowAndEndsNone) {
   EXPECT_EQ(raised(), Events{});
 }
 
+TEST_F(RowFocus, EndsNoEditOfARowThatIsLockedWhenItBegins) {
+  const auto locking = row(1).StartEdit.connect([&] { row(1).SetLocked(true); });
+  user->focuses(row(1));
+  leave();
+  EXPECT_EQ(raised(), Events{"StartEdit"});
+  EXPECT_FALSE(row(1).ValueChanged());
+}
+
 TEST_F(RowFocus, EndsNoEditOfARowThatWasLockedMeanwhile) {
   user->focuses(row(1));
   raised();
