@@ -48,6 +48,16 @@ TEST_F(ActionButton, KeepsTheMouseUntilTheLastButtonComesUp) {
   EXPECT_EQ(clicks(), 1) << "no press is left over";
 }
 
+TEST_F(ActionButton, ComesUpWithItsOwnMouseButtonWhateverTheOtherOneDoes) {
+  user->pressesAt(place({5, 5}));
+  user->pressesAt(place({5, 5}), host::MouseButton::Right);
+  user->releasesAt(place({5, 5}), host::MouseButton::Right);
+  user->releasesAt({300, 290});
+  user->movesTo(place({5, 5}));
+  EXPECT_EQ(frame(), kWhite) << "not pressed any more";
+  EXPECT_EQ(clicks(), 0);
+}
+
 TEST_F(ActionButton, IsNotClickedWhenItIsHiddenWhileItIsPressed) {
   user->pressesAt(place({5, 5}));
   button().SetVisible(false);

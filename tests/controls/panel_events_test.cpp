@@ -312,10 +312,11 @@ TEST_F(PanelEvents, AnEditEndsAtThePositionThatItsRowHasByThen) {
 TEST_F(PanelEvents, TheEditOfARemovedRowEndsWithTheNextStartEvenAtItsPlace) {
   fill(3);
   user->focuses(row(2));
-  items().Remove(Variant(2));
+  items().AddParameter("New", qrnTypeString, Variant(1));
+  items().Remove(Variant(3));
   startListening();
-  user->focuses(row(2));
-  EXPECT_EQ(events(), (Events{"ParameterEndEdit(2, False)", "ParameterStartEdit(2)", "ItemGotFocus(2)"}));
+  user->focuses(row(3));
+  EXPECT_EQ(events(), (Events{"ParameterEndEdit(3, False)", "ParameterStartEdit(3)", "ItemGotFocus(3)"}));
 }
 
 TEST_F(PanelEvents, AcceptingAValueWhileItsStateChangesIsToldOnce) {

@@ -119,6 +119,15 @@ TEST_F(ARowAtTheEdge, TakesATextOfAProgramWithTheOtherSeparatorLikeATypedOne) {
   EXPECT_FALSE(row().ValueChanged());
 }
 
+TEST_F(ARowAtTheEdge, LeavesTheSeparatorsOfEveryOtherType) {
+  setCurrentLocale(deDE());
+  for (const qrnValueType valueType : {qrnTypeString, qrnTypeDecimal, qrnTypeCurrency}) {
+    useType(valueType);
+    row().SetValue(Variant("3.5"));
+    EXPECT_EQ(textBox().Text(), "3.5") << valueType;
+  }
+}
+
 TEST_F(ARowAtTheEdge, LeavesTheGroupsThatAFormatMakes) {
   setCurrentLocale(deDE());
   useType(qrnTypeDouble);
