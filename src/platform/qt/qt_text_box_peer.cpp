@@ -70,19 +70,28 @@ void QtTextBoxPeer::applyEnabled() {
   line_.setReadOnly(box_.Locked());
 }
 
-// The control counts code points; a text that is too long already is shown as it is.
+// The control counts code points; a text that is too long already is shown as it is. A line edit sets its text
+// anew for a limit, the one that it has included.
 void QtTextBoxPeer::applyMaxLength() {
   constexpr int kNoLimit = 32767;
   const QString text = toQString(box_.Text());
   const int pairs = static_cast<int>(text.size()) - codePointsBefore(text, static_cast<int>(text.size()));
   const int limit = box_.MaxLength() > 0 ? std::min(box_.MaxLength(), kNoLimit) + pairs : kNoLimit;
-  line_.setMaxLength(std::max(limit, static_cast<int>(text.size())));
+  const int allowed = std::max(limit, static_cast<int>(text.size()));
+  if (line_.maxLength() == allowed) return;
+  line_.setMaxLength(allowed);
+  applySelection();
 }
 
 void QtTextBoxPeer::applyContent() {
   const QString text = toQString(box_.Text());
   applyMaxLength();
   if (line_.text() != text) line_.setText(text);
+  applySelection();
+}
+
+void QtTextBoxPeer::applySelection() {
+  const QString text = toQString(box_.Text());
   const int start = unitsBefore(text, box_.SelStart());
   const int length = unitsBefore(text, box_.SelStart() + box_.SelLength()) - start;
   const bool selected = line_.hasSelectedText();

@@ -17,6 +17,7 @@ class QtTextBoxPeer final : public QtEditorPeer {
   void applyEnabled() override;
   void applyPasswordChar();
   void applyMaxLength();
+  void applySelection();
   void reportText();
   void reportSelection();
 
