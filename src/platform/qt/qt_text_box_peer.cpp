@@ -39,9 +39,9 @@ class HidingStyle final : public QProxyStyle {
 };
 
 QtTextBoxPeer::QtTextBoxPeer(QtCanvas& canvas, host::TextBox& box)
-    : QtEditorPeer(canvas, box, new QLineEdit(&canvas)),
+    : QtEditorPeer(canvas, box, new QtLineEdit(&canvas)),
       box_(box),
-      line_(static_cast<QLineEdit&>(*widget())) {
+      line_(static_cast<QtLineEdit&>(*widget())) {
   bringUpToDate();
   QObject::connect(&line_, &QLineEdit::textEdited, context(), [this] { reportText(); });
   QObject::connect(&line_, &QLineEdit::selectionChanged, context(), [this] { reportSelection(); });
@@ -86,7 +86,7 @@ void QtTextBoxPeer::applyMaxLength() {
 void QtTextBoxPeer::applyContent() {
   const QString text = toQString(box_.Text());
   applyMaxLength();
-  if (line_.text() != text) line_.setText(text);
+  if (line_.text() != text) line_.write(text);
   applySelection();
 }
 
@@ -102,9 +102,11 @@ void QtTextBoxPeer::applySelection() {
 }
 
 void QtTextBoxPeer::reportText() {
-  report([this] {
-    const QString text = line_.text();
-    box_.userTyped(toUtf8(text), codePointsBefore(text, line_.cursorPosition()));
+  line_.tellEdit([this] {
+    report([this] {
+      const QString text = line_.text();
+      box_.userTyped(toUtf8(text), codePointsBefore(text, line_.cursorPosition()));
+    });
   });
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QLineEdit>
-
 #include "host/text_box.h"
 #include "platform/qt/qt_child_peer.h"
+#include "platform/qt/qt_line_edit.h"
 
 namespace qrn::qt {
 
@@ -22,7 +21,7 @@ class QtTextBoxPeer final : public QtEditorPeer {
   void reportSelection();
 
   host::TextBox& box_;
-  QLineEdit& line_;
+  QtLineEdit& line_;
   class HidingStyle* hiding_ = nullptr;  // the line edit's own, once it has hidden its text
 };
 
