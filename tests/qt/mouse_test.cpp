@@ -146,6 +146,22 @@ TEST_F(Mouse, TheWheelOverTheFocusedDropListChangesIt) {
   EXPECT_EQ(panel->combo().ListIndex(), 1);
 }
 
+TEST_F(Mouse, TheWheelLeavesADropListWhoseWindowIsNotActiveToThePanel) {
+  panel->combo().SetFocus();
+  auto* combo = shown<QComboBox>();
+  ASSERT_TRUE(combo);
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_FALSE(wheelAt(combo, {5, 5}, -120));
+  EXPECT_EQ(panel->combo().ListIndex(), 0);
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  EXPECT_TRUE(wheelAt(combo, {5, 5}, -120));
+  EXPECT_EQ(panel->combo().ListIndex(), 1);
+}
+
 TEST_F(Mouse, AScrolledEditorMovesAndIsClippedButNeverHidden) {
   panel->text().SetFocus();
   auto* line = shown<QLineEdit>();

@@ -37,9 +37,9 @@ void LockableComboBox::keyPressEvent(QKeyEvent* event) {
     QComboBox::keyPressEvent(event);
 }
 
-// The canvas below scrolls then.
+// Without the keyboard it is only passed by: the canvas below scrolls then.
 void LockableComboBox::wheelEvent(QWheelEvent* event) {
-  if (locked_)
+  if (locked_ || !hasFocus())
     event->ignore();
   else
     QComboBox::wheelEvent(event);

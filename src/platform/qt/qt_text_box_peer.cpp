@@ -70,8 +70,8 @@ void QtTextBoxPeer::applyEnabled() {
   line_.setReadOnly(box_.Locked());
 }
 
-// The control counts code points; a text that is too long already is shown as it is. A line edit sets its text
-// anew for a limit, the one that it has included.
+// The control counts code points; a text that is too long already is shown as it is. A line edit sets its
+// text anew for a limit, the one that it has included.
 void QtTextBoxPeer::applyMaxLength() {
   constexpr int kNoLimit = 32767;
   const QString text = toQString(box_.Text());
