@@ -138,6 +138,9 @@ void QtCanvas::leave(bool forward) {
 void QtCanvas::mousePressEvent(QMouseEvent* event) {
   const auto button = mouseButton(event->button());
   if (!control_ || forwarder_.sending() || !button) return;
+  // The focus may scroll what it comes to.
+  const host::Control* const under = input().hit(fromQt(event->position()));
+  const Point before = under->onSurface().topLeft();
   host::Control* editor = nullptr;
   guarded([&] {
     editor = input().mouseDown(*button, shiftState(event->modifiers()), fromQt(event->position()));
@@ -145,7 +148,8 @@ void QtCanvas::mousePressEvent(QMouseEvent* event) {
   if (!control_) return;
   auto* peer = editor ? static_cast<QtPeer*>(editor->peer()) : nullptr;
   if (QWidget* receiver = peer ? peer->mouseReceiver() : nullptr)
-    forwarder_.press(*receiver, *event);
+    forwarder_.press(*receiver, *event,
+                     editor == under ? toQt(editor->onSurface().topLeft() - before) : QPointF());
   else if (!focusIsInside())
     keepFocus();
 }

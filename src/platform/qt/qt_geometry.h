@@ -21,5 +21,6 @@ inline Rect fromQt(const QRect& area) {
 }
 
 inline Point fromQt(const QPointF& at) { return {at.x(), at.y()}; }
+inline QPointF toQt(Point at) { return {at.x, at.y}; }
 
 }  // namespace qrn::qt

@@ -7,27 +7,28 @@
 
 namespace qrn::qt {
 
-void QtPressForwarder::send(QWidget& receiver, const QMouseEvent& event, int type) {
+void QtPressForwarder::send(QWidget& receiver, const QMouseEvent& event, int type, QPointF moved) {
   const QScopedValueRollback sending(sending_, true);
-  const QPointF local = receiver.mapFromGlobal(event.globalPosition());
+  const QPointF local = receiver.mapFromGlobal(event.globalPosition()) + moved;
   QMouseEvent sent(static_cast<QEvent::Type>(type), local, event.globalPosition(), event.button(),
                    event.buttons(), event.modifiers(), event.pointingDevice());
   sent.setTimestamp(event.timestamp());
   QCoreApplication::sendEvent(&receiver, &sent);
 }
 
-void QtPressForwarder::press(QWidget& receiver, const QMouseEvent& event) {
+void QtPressForwarder::press(QWidget& receiver, const QMouseEvent& event, QPointF moved) {
   receiver_ = &receiver;
+  moved_ = moved;
   firstClick_ = event.button() == Qt::LeftButton ? &receiver : nullptr;
   firstClickAt_ = event.globalPosition().toPoint();
   firstClickTime_ = event.timestamp();
-  send(receiver, event, QEvent::MouseButtonPress);
+  send(receiver, event, QEvent::MouseButtonPress, moved);
 }
 
 void QtPressForwarder::pass(const QMouseEvent& event) {
   QWidget& receiver = *receiver_;
   if (event.buttons() == Qt::NoButton) end();
-  send(receiver, event, event.type());
+  send(receiver, event, event.type(), moved_);
 }
 
 bool QtPressForwarder::completeDoubleClick(QWidget& receiver, const QMouseEvent& press) {
@@ -38,7 +39,7 @@ bool QtPressForwarder::completeDoubleClick(QWidget& receiver, const QMouseEvent&
   const bool second =
       press.button() == Qt::LeftButton && apart <= hints.mouseDoubleClickDistance() &&
       press.timestamp() - firstClickTime_ <= static_cast<quint64>(hints.mouseDoubleClickInterval());
-  if (second) send(receiver, press, QEvent::MouseButtonDblClick);
+  if (second) send(receiver, press, QEvent::MouseButtonDblClick, {});
   return second;
 }
 

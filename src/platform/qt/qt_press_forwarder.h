@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QPointF>
 #include <QPointer>
 #include <QWidget>
 
@@ -17,7 +18,9 @@ class QtPressForwarder {
   bool active() const { return !receiver_.isNull(); }
   QWidget* receiver() const { return receiver_; }
 
-  void press(QWidget& receiver, const QMouseEvent& event);
+  /// `moved` is how far the editor has gone since the press, which counts until the release: it hits what
+  /// was under the mouse.
+  void press(QWidget& receiver, const QMouseEvent& event, QPointF moved);
   /// A move or a release; the release of the last button ends it.
   void pass(const QMouseEvent& event);
   void end() { receiver_ = nullptr; }
@@ -27,9 +30,10 @@ class QtPressForwarder {
   bool completeDoubleClick(QWidget& receiver, const QMouseEvent& press);
 
  private:
-  void send(QWidget& receiver, const QMouseEvent& event, int type);
+  void send(QWidget& receiver, const QMouseEvent& event, int type, QPointF moved);
 
   QPointer<QWidget> receiver_;
+  QPointF moved_;
   bool sending_ = false;
 
   QPointer<QWidget> firstClick_;
