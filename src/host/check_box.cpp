@@ -5,7 +5,7 @@
 namespace qrn::host {
 
 void CheckBox::userToggled() {
-  if (!Enabled()) return;
+  if (!enabledUpToSurface()) return;
   value_ = value_ == 0 ? 1 : 0;
   touchedByUser(Aspect::Content);
   Parent()->childClicked(*this);

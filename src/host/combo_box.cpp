@@ -6,7 +6,7 @@ namespace qrn::host {
 
 void ComboBox::userSelected(std::int32_t index) {
   if (index == listIndex_) return;
-  if (locked_ || !Enabled() || index < -1 || index >= ListCount()) {
+  if (locked_ || !enabledUpToSurface() || index < -1 || index >= ListCount()) {
     if (peer()) peer()->changed(Aspect::Content);
     return;
   }

@@ -41,7 +41,7 @@ std::int16_t CommandButton::mnemonic() const {
 }
 
 void CommandButton::userClicked() {
-  if (Enabled()) raise(Click, "Click");
+  if (enabledUpToSurface()) raise(Click, "Click");
 }
 
 void CommandButton::tellFacts(AccessibleFacts& facts) const {

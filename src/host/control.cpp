@@ -65,7 +65,11 @@ void Control::SetVisible(bool visible) {
   visibilityChanged();
 }
 
-void Control::SetEnabled(bool enabled) { change(enabled_, enabled, Aspect::Enabled); }
+// The native widgets inside can be used no longer, or again.
+void Control::SetEnabled(bool enabled) {
+  const bool isOnSurface = container_ || peerPolicy() == PeerPolicy::Surface;
+  if (change(enabled_, enabled, Aspect::Enabled) && isOnSurface) input().tellInside(*this, Aspect::Enabled);
+}
 
 void Control::Move(double left, double top, double width, double height) {
   const Rect target{left, top, width, height};
@@ -101,7 +105,7 @@ bool Control::enabledUpToSurface() const {
 // The native widgets inside move, appear and vanish along with what they lie in.
 void Control::tellPlace() {
   if (peer_) peer_->changed(Aspect::Place);
-  if (container_) input().tellPlaceInside(*this);
+  if (container_) input().tellInside(*this, Aspect::Place);
 }
 
 bool Control::hasFocus() const {

@@ -95,6 +95,8 @@ class Control : public Object {
   bool shown() const;
   /// Something lies in front of part of it.
   bool covered() const;
+  /// Every control up to the surface is enabled.
+  bool enabledUpToSurface() const;
   Size pixelSize() const;
   /// In pixels of the control; the right and lower edges are outside.
   bool contains(Point at) const { return Rect{0, 0, pixelSize().width, pixelSize().height}.contains(at); }
@@ -185,7 +187,6 @@ class Control : public Object {
 
   struct Rare;  // what few controls have
   Rare& rare();
-  bool enabledUpToSurface() const;
   void tellPlace();
   void tellTools(Aspect aspect);
 

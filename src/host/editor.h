@@ -29,7 +29,7 @@ class Editor : public Control {
   void fontChanged() override;
 
   /// Grey when the editor can't be used.
-  Color textColor() const { return Enabled() ? foreColor_ : kGrayText; }
+  Color textColor() const { return enabledUpToSurface() ? foreColor_ : kGrayText; }
 
  protected:
   explicit Editor(Color backColor = kWindowBackground) : backColor_(backColor) {}

@@ -277,11 +277,11 @@ void Input::forget(const Control& control) {
   std::erase_if(peers_, [&](const Control* one) { return isInside(one, control); });
 }
 
-void Input::tellPlaceInside(const Control& moved) {
+void Input::tellInside(const Control& outer, Aspect aspect) {
   // By index: a widget may go while it is told.
   for (std::size_t i = 0; i < peers_.size(); ++i) {
     Control& control = *peers_[i];
-    if (&control != &moved && isInside(&control, moved)) control.peer()->changed(Aspect::Place);
+    if (&control != &outer && isInside(&control, outer)) control.peer()->changed(aspect);
   }
 }
 

@@ -8,6 +8,7 @@
 
 namespace qrn::host {
 
+enum class Aspect : std::uint8_t;
 class Control;
 class FirstError;
 class UserControl;
@@ -91,7 +92,8 @@ class Input {
   void remember(Control& withPeer) { peers_.push_back(&withPeer); }
   void forgetPeer(const Control& control) { std::erase(peers_, &control); }
   const std::vector<Control*>& withPeers() const { return peers_; }
-  void tellPlaceInside(const Control& moved);
+  /// Something of a control that counts for all that lies in it is another now.
+  void tellInside(const Control& outer, Aspect aspect);
 
  private:
   bool tellLost(FirstError& error);

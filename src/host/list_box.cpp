@@ -12,13 +12,13 @@ void ListBox::SetSelected(std::int32_t index, bool selected) {
 }
 
 void ListBox::userMovedTo(std::int32_t index) {
-  if (!Enabled() || index < -1 || index >= ListCount()) return;
+  if (!enabledUpToSurface() || index < -1 || index >= ListCount()) return;
   listIndex_ = index;
   if (!peer()) invalidate();
 }
 
 void ListBox::userChecked(std::int16_t index) {
-  if (!Enabled() || index < 0 || index >= ListCount()) return;
+  if (!enabledUpToSurface() || index < 0 || index >= ListCount()) return;
   Entry& changed = entry(index);
   changed.selected = !changed.selected;
   touchedByUser(Aspect::Content);

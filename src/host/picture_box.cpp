@@ -8,7 +8,7 @@ void PictureBox::scrollTo(double offset) {
   if (offset == scrolledBy_) return;
   scrolledBy_ = offset;
   // An editor with a native widget moves along; it is never hidden, which would cost it the focus.
-  input().tellPlaceInside(*this);
+  input().tellInside(*this, Aspect::Place);
   invalidate();
 }
 

@@ -124,7 +124,7 @@ std::intptr_t RichTextBox::windowMessage(const Message& message) {
 
 // The system's text colour need not fit to a background of the box's own any more than those of the text do.
 Color RichTextBox::colorOf(const CharFormat& format) const {
-  if (!Enabled()) return textColor();
+  if (!enabledUpToSurface()) return textColor();
   return readableOn(platform().resolve(format.color.value_or(textColor())), platform().resolve(BackColor()));
 }
 

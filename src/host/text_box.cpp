@@ -46,7 +46,7 @@ void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32
   std::string wanted(text);
   if (upperCase_) wanted = qrn::upperCase(std::string_view(wanted));
   if (maxLength_ > 0) wanted = text::slice(wanted, 0, static_cast<std::size_t>(maxLength_));
-  if (locked_) wanted = text_;
+  if (locked_ || !enabledUpToSurface()) wanted = text_;
   const bool corrected = wanted != text;
   const bool changed = wanted != text_;
   if (changed) store(std::move(wanted));

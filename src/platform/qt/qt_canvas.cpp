@@ -92,6 +92,12 @@ void QtCanvas::takeFocusFrom(const QWidget& widget) {
   if (focus && (focus == &widget || widget.isAncestorOf(focus))) keepFocus();
 }
 
+void QtCanvas::giveFocusTo(QWidget& widget) {
+  if (window()->focusWidget() != this) return;
+  const QScopedValueRollback quiet(quiet_, true);
+  widget.setFocus(Qt::OtherFocusReason);
+}
+
 bool QtCanvas::focusIsInside() const {
   const QWidget* focus = window()->focusWidget();
   return focus && (focus == this || isAncestorOf(focus));
@@ -197,7 +203,7 @@ void QtCanvas::contextMenuEvent(QContextMenuEvent* event) {
 
 void QtCanvas::showCursorOver(const QPointF& at) {
   const auto* box = dynamic_cast<const host::TextBox*>(input().hit(fromQt(at)));
-  const Qt::CursorShape shape = box && box->Enabled() ? Qt::IBeamCursor : Qt::ArrowCursor;
+  const Qt::CursorShape shape = box && box->enabledUpToSurface() ? Qt::IBeamCursor : Qt::ArrowCursor;
   if (cursor().shape() != shape) setCursor(shape);
 }
 

@@ -43,6 +43,8 @@ class QtCanvas final : public QWidget {
   void keepFocus();
   /// The same, if the widget or one inside it has the focus.
   void takeFocusFrom(const QWidget& widget);
+  /// The widget gets it back if it is kept here.
+  void giveFocusTo(QWidget& widget);
   bool keepsFocusQuietly() const { return quiet_; }
 
   // ---- for assistive tools (qt_canvas_accessible.cpp) ----

@@ -40,10 +40,13 @@ void QtChildPeer::applyPlace() {
     widget()->setMask(seen.translated(-whole.topLeft()));
 }
 
-// Disabling the widget that has the focus would send the focus on to the next one.
+// Disabling the widget that has the focus would send the focus on to the next one. The control keeps it and
+// the canvas keeps it for the widget.
 void QtChildPeer::applyEnabled() {
-  if (!control_.Enabled()) canvas_.takeFocusFrom(*widget());
-  widget()->setEnabled(control_.Enabled());
+  const bool enabled = control_.enabledUpToSurface();
+  if (!enabled) canvas_.takeFocusFrom(*widget());
+  widget()->setEnabled(enabled);
+  if (enabled && control_.input().focus() == &control_) canvas_.giveFocusTo(*widget());
 }
 
 QtEditorPeer::QtEditorPeer(QtCanvas& canvas, host::Editor& editor, QWidget* widget)
@@ -51,6 +54,12 @@ QtEditorPeer::QtEditorPeer(QtCanvas& canvas, host::Editor& editor, QWidget* widg
   // Tab goes by the order of the controls, which the canvas knows.
   widget->setFocusPolicy(Qt::ClickFocus);
   canvas.watch(*widget);
+}
+
+// The colours of one that can't be used are others.
+void QtEditorPeer::applyEnabled() {
+  QtChildPeer::applyEnabled();
+  applyLook();
 }
 
 void QtEditorPeer::applyLook() {

@@ -34,6 +34,7 @@ class QtChildPeer : public QtPeer {
 class QtEditorPeer : public QtChildPeer {
  protected:
   QtEditorPeer(QtCanvas& canvas, host::Editor& editor, QWidget* widget);
+  void applyEnabled() override;
   void applyLook() override;
 
  private:

@@ -57,9 +57,8 @@ QtComboBoxPeer::QtComboBoxPeer(QtCanvas& canvas, host::ComboBox& box)
 void QtComboBoxPeer::applyContent() { widget_.setCurrentIndex(box_.ListIndex()); }
 
 void QtComboBoxPeer::applyEnabled() {
-  QtEditorPeer::applyEnabled();
   widget_.setLocked(box_.Locked());
-  applyLook();  // the colours of a locked one are others
+  QtEditorPeer::applyEnabled();
 }
 
 void QtComboBoxPeer::applyEntries() {

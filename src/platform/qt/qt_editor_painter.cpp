@@ -45,7 +45,7 @@ void setState(QStyleOption& option, const QRect& place, const QPalette& palette,
 
 QStyleOptionFrame lineEditOption(const QRect& place, const QPalette& palette, const host::TextBox& box) {
   QStyleOptionFrame option;
-  setState(option, place, palette, box.Enabled());
+  setState(option, place, palette, box.enabledUpToSurface());
   option.lineWidth = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &option);
   option.midLineWidth = 0;
   option.state |= QStyle::State_Sunken;
@@ -141,7 +141,7 @@ void QtEditorPainter::paintFrame(QPainter& painter, const QRect& place, const ho
 
 void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const host::TextBox& box) {
   const QPalette& palette = platform_.palettes().of(box);
-  const int state = (box.Enabled() ? 1 : 0) | (box.Locked() ? 2 : 0);
+  const int state = (box.enabledUpToSurface() ? 1 : 0) | (box.Locked() ? 2 : 0);
   paintFrame(painter, place, box, 't', state, [&](QPainter& into, const QRect& at) {
     const QStyleOptionFrame option = lineEditOption(at, palette, box);
     style().drawPrimitive(QStyle::PE_PanelLineEdit, &option, &into);
@@ -157,7 +157,7 @@ void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const hos
   const auto topOf = [&](int height) { return inside.y() + (inside.height() - height + 1) / 2; };
   painter.setClipRect(inside, Qt::IntersectClip);
   painter.setFont(metrics.font());
-  painter.setPen(textColor(palette, box.Enabled()));
+  painter.setPen(textColor(palette, box.enabledUpToSurface()));
   const int height = static_cast<int>(metrics.height());
   if (isLatin(text)) {
     const int scrolled = scrolledBy(alignment, qRound(metrics.advance(toUtf8(text))) + 1, room);
@@ -175,10 +175,10 @@ void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const hos
 }
 
 void QtEditorPainter::paintCheck(QPainter& painter, const QRect& place, const host::CheckBox& box) {
-  const int state = (box.Enabled() ? 1 : 0) | (box.Value() != 0 ? 2 : 0);
+  const int state = (box.enabledUpToSurface() ? 1 : 0) | (box.Value() != 0 ? 2 : 0);
   paintFrame(painter, place, box, 'c', state, [&](QPainter& into, const QRect& at) {
     QStyleOptionButton option;
-    setState(option, at, platform_.palettes().of(box), box.Enabled());
+    setState(option, at, platform_.palettes().of(box), box.enabledUpToSurface());
     option.state |= box.Value() != 0 ? QStyle::State_On : QStyle::State_Off;
     style().drawControl(QStyle::CE_CheckBox, &option, &into);
   });
@@ -188,13 +188,13 @@ void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const ho
   const QFont& font = platform_.metrics(*box.Font()).font();
   const QPalette& palette = platform_.palettes().of(box);
   QStyleOptionComboBox option;
-  setState(option, place, palette, box.Enabled());
+  setState(option, place, palette, box.enabledUpToSurface());
   option.fontMetrics = QFontMetrics(font);
   option.editable = false;
   option.frame = true;
   option.subControls = QStyle::SC_All;
   option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_SmallIconSize, &option);
-  const int state = (box.Enabled() ? 1 : 0) | (box.Locked() ? 2 : 0);
+  const int state = (box.enabledUpToSurface() ? 1 : 0) | (box.Locked() ? 2 : 0);
   paintFrame(painter, place, box, 'o', state, [&](QPainter& into, const QRect& at) {
     QStyleOptionComboBox frame = option;
     frame.rect = at;
@@ -206,22 +206,23 @@ void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const ho
   });
   option.currentText = toQString(box.Text());
   painter.setFont(font);
-  painter.setPen(textColor(palette, box.Enabled()));
+  painter.setPen(textColor(palette, box.enabledUpToSurface()));
   style().drawControl(QStyle::CE_ComboBoxLabel, &option, &painter);
 }
 
 void QtEditorPainter::paintButton(QPainter& painter, const QRect& place, const host::CommandButton& button) {
   const QFont& font = platform_.metrics(*button.Font()).font();
   QStyleOptionButton option;
-  setState(option, place, platform_.palettes().of(button), button.Enabled());
+  setState(option, place, platform_.palettes().of(button), button.enabledUpToSurface());
   option.state |= QStyle::State_Raised;
   option.fontMetrics = QFontMetrics(font);
   option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_ButtonIconSize, &option);
-  paintFrame(painter, place, button, 'b', button.Enabled() ? 1 : 0, [&](QPainter& into, const QRect& at) {
-    QStyleOptionButton frame = option;
-    frame.rect = at;
-    style().drawControl(QStyle::CE_PushButtonBevel, &frame, &into);
-  });
+  paintFrame(painter, place, button, 'b', button.enabledUpToSurface() ? 1 : 0,
+             [&](QPainter& into, const QRect& at) {
+               QStyleOptionButton frame = option;
+               frame.rect = at;
+               style().drawControl(QStyle::CE_PushButtonBevel, &frame, &into);
+             });
   option.text = toQString(button.Caption());
   option.rect = style().subElementRect(QStyle::SE_PushButtonContents, &option);
   painter.setFont(font);
@@ -231,12 +232,13 @@ void QtEditorPainter::paintButton(QPainter& painter, const QRect& place, const h
 void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const host::ListBox& list) {
   const QPalette& palette = platform_.palettes().of(list);
   QStyleOption frame;
-  setState(frame, place, palette, list.Enabled());
-  paintFrame(painter, place, list, 'l', list.Enabled() ? 1 : 0, [&](QPainter& into, const QRect& at) {
-    QStyleOption field = frame;
-    field.rect = at;
-    drawFieldFrame(into, field);
-  });
+  setState(frame, place, palette, list.enabledUpToSurface());
+  paintFrame(painter, place, list, 'l', list.enabledUpToSurface() ? 1 : 0,
+             [&](QPainter& into, const QRect& at) {
+               QStyleOption field = frame;
+               field.rect = at;
+               drawFieldFrame(into, field);
+             });
   const int edge = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &frame);
   const QRect inside = place.adjusted(edge, edge, -edge, -edge);
 
@@ -247,7 +249,7 @@ void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const hos
     const int width = style().pixelMetric(QStyle::PM_ScrollBarExtent, &frame);
     QStyleOptionSlider bar;
     setState(bar, QRect(inside.right() + 1 - width, inside.y(), width, inside.height()), palette,
-             list.Enabled());
+             list.enabledUpToSurface());
     bar.maximum = all - entries.height();
     bar.pageStep = entries.height();
     drawScrollBar(painter, bar);
@@ -255,14 +257,14 @@ void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const hos
   }
   painter.setClipRect(entries, Qt::IntersectClip);
   for (int i = 0, top = entries.top(); i < list.ListCount() && top <= entries.bottom(); ++i, top += height) {
-    const QtListItem item{toQString(list.List(i)), list.Selected(i), list.Enabled(), false};
+    const QtListItem item{toQString(list.List(i)), list.Selected(i), list.enabledUpToSurface(), false};
     item.paint(painter, QRect(entries.left(), top, entries.width(), height), palette, font);
   }
 }
 
 void QtEditorPainter::paintScrollBar(QPainter& painter, const QRect& place, const host::VScrollBar& bar) {
   QStyleOptionSlider option;
-  setState(option, place, QApplication::palette(), bar.Enabled());
+  setState(option, place, QApplication::palette(), bar.enabledUpToSurface());
   option.minimum = bar.Min();
   option.maximum = std::max(bar.Min(), bar.Max());
   option.sliderPosition = option.sliderValue = bar.Value();

@@ -45,7 +45,8 @@ const QPalette& QtPalettes::of(const host::Editor& editor) {
   const QPalette::ColorRole role = pressable ? QPalette::Button : QPalette::Base;
   const host::Color back = backgroundOf(editor, role, platform_);
   const host::Color wish = platform_.resolve(editor.textColor());
-  const host::Color text = editor.Enabled() ? host::readableOn(wish, behindText(back, role)) : wish;
+  const host::Color text =
+      editor.enabledUpToSurface() ? host::readableOn(wish, behindText(back, role)) : wish;
   const auto [entry, fresh] = palettes_.try_emplace({role, back, text});
   if (fresh) {
     QPalette palette = QApplication::palette();
