@@ -193,12 +193,19 @@ void QtCanvas::wheelEvent(QWheelEvent* event) {
 }
 
 // A right press on a painted editor opens the menu of the real one.
-void QtCanvas::contextMenuEvent(QContextMenuEvent* event) {
-  QWidget* receiver = forwarder_.receiver();
-  if (!receiver || forwarder_.sending()) return;
-  QContextMenuEvent sent(event->reason(), receiver->mapFromGlobal(event->globalPos()), event->globalPos(),
-                         event->modifiers());
-  QCoreApplication::sendEvent(receiver, &sent);
+void QtCanvas::contextMenuEvent(QContextMenuEvent* event) { forwarder_.passMenu(*event); }
+
+// What the row or button around an editor offers goes before what its widget does.
+bool QtCanvas::offersMenu(const QWidget& editor, const QContextMenuEvent& event) {
+  host::Control* control = controlOf(editor);
+  if (event.reason() != QContextMenuEvent::Mouse || !control || !control->enabledUpToSurface()) return false;
+  const QtPlatform& platform = platform_;
+  const int before = platform.menusShown();
+  guarded([&] {
+    control->Parent()->childMouseUp(*control, host::MouseButton::Right, shiftState(event.modifiers()),
+                                    fromQt(QPointF(event.pos())));
+  });
+  return platform.menusShown() != before;
 }
 
 void QtCanvas::showCursorOver(const QPointF& at) {
@@ -236,6 +243,7 @@ bool QtCanvas::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease: return keyReleased(static_cast<QKeyEvent&>(*event));
     case QEvent::MouseButtonPress:
       return forwarder_.completeDoubleClick(editor, static_cast<QMouseEvent&>(*event));
+    case QEvent::ContextMenu: return offersMenu(editor, static_cast<QContextMenuEvent&>(*event));
     case QEvent::FocusOut: focusLeft(static_cast<QFocusEvent&>(*event).reason()); return false;
     default: return false;
   }

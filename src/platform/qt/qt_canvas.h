@@ -83,6 +83,7 @@ class QtCanvas final : public QWidget {
   void leave(bool forward);
   void showCursorOver(const QPointF& at);
   bool showToolTip(QHelpEvent& event);
+  bool offersMenu(const QWidget& editor, const QContextMenuEvent& event);
 
   bool wants(const QKeyEvent& event);
   bool ownKey(QKeyEvent& event);

@@ -125,7 +125,8 @@ void QtListBoxPeer::reportTick(int row) {
 
 void QtListBoxPeer::reportMouse(const QMouseEvent& event) {
   const auto button = mouseButton(event.button());
-  if (!button) return;
+  // The canvas tells of the right one when a menu is asked for.
+  if (!button || button == host::MouseButton::Right) return;
   const Point at = fromQt(QPointF(list_.viewport()->mapTo(&list_, event.position().toPoint())));
   if (event.type() == QEvent::MouseButtonPress)
     report([&] { box_.userPressed(*button, at); });

@@ -22,13 +22,19 @@ void addEntry(QMenu& menu, const host::MenuEntry& entry, int index) {
 
 }  // namespace
 
+bool offersAnything(const host::PopupMenu& menu) {
+  for (int i = 0; i < menu.size(); ++i) {
+    if (const auto entry = menu.entry(i); entry && entry->Visible()) return true;
+  }
+  return false;
+}
+
 std::optional<int> chooseFrom(const host::PopupMenu& entries, Point screen) {
   // Without a parent, as the widget below may be deleted while the menu is open.
   QMenu menu;
   for (int i = 0; i < entries.size(); ++i) {
     if (const auto entry = entries.entry(i); entry && entry->Visible()) addEntry(menu, *entry, i);
   }
-  if (menu.isEmpty()) return std::nullopt;
   const QAction* chosen = menu.exec(QPointF(screen.x, screen.y).toPoint());
   return chosen ? std::optional<int>(chosen->data().toInt()) : std::nullopt;
 }

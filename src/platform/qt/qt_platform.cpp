@@ -100,7 +100,11 @@ QtFontMetrics& QtPlatform::metrics(const host::Font& font) {
   return metrics_.emplace_back(font, font).second;
 }
 
-std::optional<int> QtPlatform::popUp(host::PopupMenu& menu, Point screen) { return chooseFrom(menu, screen); }
+std::optional<int> QtPlatform::popUp(host::PopupMenu& menu, Point screen) {
+  if (!offersAnything(menu)) return std::nullopt;
+  ++menusShown_;
+  return chooseFrom(menu, screen);
+}
 
 Point QtPlatform::cursor() const { return fromQt(QPointF(QCursor::pos())); }
 

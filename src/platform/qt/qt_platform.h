@@ -49,6 +49,7 @@ class QtPlatform final : public host::Platform {
 
   QtPalettes& palettes() { return palettes_; }
   QtPictureCache& pictures() { return pictures_; }
+  int menusShown() const { return menusShown_; }
   QtAccessibleEvents& accessibleEvents() { return accessibleEvents_; }
   /// Palette, style or scale of the application are others now.
   void appearanceChanged();
@@ -63,6 +64,7 @@ class QtPlatform final : public host::Platform {
   QtPictureCache pictures_;
   QtAccessibleEvents accessibleEvents_;
   QtEditorPainter editorPainter_;
+  int menusShown_ = 0;
 };
 
 }  // namespace qrn::qt

@@ -31,6 +31,14 @@ void QtPressForwarder::pass(const QMouseEvent& event) {
   send(receiver, event, event.type(), moved_);
 }
 
+void QtPressForwarder::passMenu(const QContextMenuEvent& event) {
+  if (!receiver_ || passingMenu_) return;
+  const QScopedValueRollback passing(passingMenu_, true);
+  const QPointF local = receiver_->mapFromGlobal(QPointF(event.globalPos())) + moved_;
+  QContextMenuEvent sent(event.reason(), local.toPoint(), event.globalPos(), event.modifiers());
+  QCoreApplication::sendEvent(receiver_, &sent);
+}
+
 bool QtPressForwarder::completeDoubleClick(QWidget& receiver, const QMouseEvent& press) {
   if (sending_ || firstClick_ != &receiver) return false;
   firstClick_ = nullptr;

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 
+class QContextMenuEvent;
 class QMouseEvent;
 
 namespace qrn::qt {
@@ -23,6 +24,8 @@ class QtPressForwarder {
   void press(QWidget& receiver, const QMouseEvent& event, QPointF moved);
   /// A move or a release; the release of the last button ends it.
   void pass(const QMouseEvent& event);
+  /// That a menu is asked for. An editor without one passes it back.
+  void passMenu(const QContextMenuEvent& event);
   void end() { receiver_ = nullptr; }
 
   /// The second click of a double click is a plain press to Qt when the first one went elsewhere. Answers
@@ -35,6 +38,7 @@ class QtPressForwarder {
   QPointer<QWidget> receiver_;
   QPointF moved_;
   bool sending_ = false;
+  bool passingMenu_ = false;
 
   QPointer<QWidget> firstClick_;
   QPoint firstClickAt_;
