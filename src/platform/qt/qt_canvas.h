@@ -39,6 +39,9 @@ class QtCanvas final : public QWidget {
 
   /// Sees the keys and the focus of an editor's widget before that does.
   void watch(QWidget& editor) { editor.installEventFilter(this); }
+
+  // ---- the focus (qt_canvas_focus.cpp) ----
+
   /// Keeps the focus on this canvas, telling nobody.
   void keepFocus();
   /// The same, if the widget or one inside it has the focus.
