@@ -6,7 +6,10 @@
 namespace qrn::host {
 namespace {
 
-constexpr double kReadable = 3.0;
+constexpr double kReadable = 4.5;  // WCAG 2.1, level AA
+// Colours are chosen on light grounds, and stay there unless they can hardly be seen.
+constexpr double kBearableOnLight = 3.0;
+constexpr double kDark = 0.18;
 
 double linear(int channel) {
   const double c = channel / 255.0;
@@ -31,13 +34,14 @@ double contrast(Color a, Color b) {
 }
 
 Color readableOn(Color text, Color background) {
-  if (contrast(text, background) >= kReadable) return text;
-  const Color goal = luminance(background) < 0.18 ? rgb(255, 255, 255) : rgb(0, 0, 0);
+  const bool onDark = luminance(background) < kDark;
+  if (contrast(text, background) >= (onDark ? kReadable : kBearableOnLight)) return text;
+  const Color goal = onDark ? rgb(255, 255, 255) : rgb(0, 0, 0);
   // Pure black says "ordinary text", so it goes all the way.
   if (text == rgb(0, 0, 0)) return goal;
   for (double share = 0.1; share < 1; share += 0.1) {
     const Color candidate = mixed(text, goal, share);
-    if (contrast(candidate, background) >= kReadable * 1.5) return candidate;
+    if (contrast(candidate, background) >= kReadable) return candidate;
   }
   return goal;
 }

@@ -52,8 +52,9 @@ Color mixed(Color from, Color to, double share);
 /// The contrast of two plain colours, 1 to 21, as WCAG 2.1 computes it.
 double contrast(Color a, Color b);
 
-/// The text colour itself where it can be read on the background (contrast 3 or more), otherwise its hue,
-/// made lighter or darker until it can. Both are plain colours.
+/// The text colour itself where it can be read on the background, otherwise its hue, made lighter or darker
+/// until its contrast is 4.5. It counts as readable from 4.5 on a dark ground, and from 3 on a light one, for
+/// which most colours are chosen. Both are plain colours.
 Color readableOn(Color text, Color background);
 
 }  // namespace qrn::host

@@ -52,6 +52,25 @@ TEST(ReadableText, CanBeReadOnEveryGround) {
   }
 }
 
+// The colours of values that are wrong, live and changed, on the fields of dark and high-contrast palettes.
+TEST(ReadableText, HasAContrastOfFourAndAHalfInTheColoursOfStatesOnDarkFields) {
+  for (const Color state : {rgb(255, 0, 0), rgb(0, 127, 0), rgb(0, 0, 255), rgb(0, 0, 0)}) {
+    for (const Color field :
+         {rgb(0x23, 0x23, 0x23), rgb(0x35, 0x35, 0x35), rgb(0, 0, 0), rgb(0x31, 0x36, 0x3b)}) {
+      const Color shown = readableOn(state, field);
+      EXPECT_GE(contrast(shown, field), 4.5) << state << " on " << field;
+    }
+  }
+  EXPECT_GT(redOf(readableOn(rgb(255, 0, 0), rgb(0x35, 0x35, 0x35))), 200);
+  EXPECT_GT(greenOf(readableOn(rgb(0, 127, 0), rgb(0, 0, 0))), greenOf(rgb(0, 127, 0)));
+}
+
+TEST(ReadableText, StaysPureOnTheLightFieldsItIsMadeFor) {
+  for (const Color state : {rgb(255, 0, 0), rgb(0, 127, 0), rgb(0, 0, 255)})
+    for (const Color field : {rgb(255, 255, 255), rgb(0xef, 0xef, 0xef)})
+      EXPECT_EQ(readableOn(state, field), state);
+}
+
 TEST(ReadableText, KeepsTheLeadingColourOfItsHueWhenItIsLightened) {
   const Color shown = readableOn(rgb(0, 0, 160), rgb(30, 30, 30));
   EXPECT_GT(blueOf(shown), redOf(shown));
