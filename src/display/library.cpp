@@ -5,6 +5,7 @@
 #include "host/prog_ids.h"
 #include "images/QRNImageList.h"
 #include "row/QRNEdit.h"
+#include "tooltip/QRNToolTip.h"
 #include "values/QRNArray.h"
 #include "values/QRNBitList.h"
 #include "values/QRNCheck.h"
@@ -23,6 +24,7 @@ constexpr host::ProgId kClasses[] = {
     {"QRNV16Controls2.QRNDisplay", make<QRNDisplay>}, {"QRNV16Controls2.QRNImageList", make<QRNImageList>},
     {"QRNV16Controls2.QRNCheck", make<QRNCheck>},     {"QRNV16Controls2.QRNDropList", make<QRNDropList>},
     {"QRNV16Controls2.QRNBitList", make<QRNBitList>}, {"QRNV16Controls2.QRNArray", make<QRNArray>},
+    {"QRNV16Controls2.QRNToolTip", make<QRNToolTip>},
 };
 
 }  // namespace
