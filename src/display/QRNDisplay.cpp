@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "diag/QRNErrors.h"
+#include "display/shown_tool_tip.h"
 #include "runtime/errors.h"
 #include "runtime/rounding.h"
 
@@ -40,6 +41,12 @@ void QRNDisplay::show() {
   redraw_ = true;
   applyTitleLook();
   arrange();
+}
+
+void QRNDisplay::resize() {
+  const WeakRef<host::Control> self(this);
+  arrange();
+  if (self) placeToolTip();
 }
 
 QRNImageList& QRNDisplay::ImageList() {

@@ -17,6 +17,8 @@
 
 namespace qrn {
 
+class QRNToolTip;
+
 /// A panel of parameter rows and action buttons, with a title bar, a frame, a scroll bar and a footer of push
 /// buttons.
 /// Lengths are in pixels; −1 as a spacing or height means one that follows from the font.
@@ -130,6 +132,12 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   /// none.
   std::int32_t GetActiveItem(bool bAcceptMouseHit);
 
+  /// Shows an empty tool tip beside an item that a selector names, or beside any control (see
+  /// host::referenceTo), and gives it the focus; the edit of the row that had it ends no sooner than the tip
+  /// has gone. Null when there can be none, or a listener has removed it already.
+  QRNToolTip* DisplayToolTip(const Variant& RelatedControl, float nEstimatedLines);
+  void RemoveToolTip(bool bRestoreFocus);
+
   Event<std::int32_t&> ItemGotFocus;
   Event<std::int32_t&> ItemLostFocus;
   Event<std::int32_t&, std::int16_t&> ItemMenuClick;
@@ -196,7 +204,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void initialize() override;
   /// A new panel has colours of its own, not those of the container.
   void initProperties() override {}
-  void resize() override { arrange(); }
+  void resize() override;
   void show() override;
   void realised() override { sbrVertical_.realiseWithSurface(); }
 
@@ -238,7 +246,8 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   std::int32_t scrollNumber(double value) const;
 
   // ---- the footer (QRNDisplay_buttons.cpp) ----
-  bool hasButtons() const { return buttons_ && buttons_->Count() > 0; }
+  std::int32_t footerButtons() const { return buttons_ ? buttons_->Count() : 0; }
+  bool hasButtons() const { return footerButtons() > 0; }
   double firstButtonHeight() const;
   double arrangeButtons();
   host::UserControl& control() override { return *this; }
@@ -256,12 +265,22 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void startEditCycle(const PanelItem& item);
   void endEditCycle(const PanelItem& item, bool changed);
   void releaseEditCycle();
+  void applicationLeft();
   bool isEdited(const PanelItem& item) const { return editing_ && edited_.lock().get() == &item; }
   void itemLeaves(const PanelItem& item);
-  void passiveClick() { raise(Click, "Click"); }
+  void passiveClick();
   void toggleMaximized();
   void hover(const host::Control* titleButton);
   void clickOn(host::Control& child);
+
+  // ---- the tool tip (QRNDisplay_tooltip.cpp) ----
+  QRNToolTip* toolTip() const;
+  void createToolTip();
+  void placeToolTip();
+  /// What a tool tip is about; null when that has gone.
+  host::Control* relatedTo(const QRNToolTip& tip) const;
+  void toolTipLeft();
+  host::Control* shownHelp() const;
 
   /// Null for what is no item's control.
   const PanelItem* itemOf(const host::Control& control) const;
@@ -294,6 +313,8 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   std::int32_t horizontalSpacing_ = -1;
   std::int32_t menuItemHeight_ = -1;
   std::int32_t buttonsAlignment_ = 1;
+  std::unique_ptr<struct ShownToolTip> toolTip_;
+  double estimatedLines_ = 1;              // of the tool tip's text
   std::weak_ptr<const PanelItem> edited_;  // while it is in the panel
   std::int32_t editIndex_ = 0;             // where it was then
   qrnEdgeType borderStyle_ = qrnEdgeEngraved;
@@ -308,7 +329,8 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   bool redraw_ = false;
   bool tallContent_ = false;
   bool editing_ = false;
-  bool editChanged_ = false;
+  bool editChanged_ = false;   // of an end that is held back
+  bool toolTipShown_ = false;  // and the ends of edits are held back
 };
 
 }  // namespace qrn

@@ -5,12 +5,13 @@ namespace qrn {
 using host::AccessibleFacts;
 using host::AccessibleNode;
 
-// From top to bottom: the buttons of the title bar, the items, the scroll bar, and the buttons of the footer.
+// From top to bottom: the buttons of the title bar, the items, the scroll bar, the buttons of the footer, and
+// the tool tip.
 
 std::int32_t QRNDisplay::accessibleCount() const {
   const std::int32_t title = (imgMaxRst_.Visible() ? 1 : 0) + (imgClose_.Visible() ? 1 : 0);
   const std::int32_t bar = sbrVertical_.Visible() ? 1 : 0;
-  return title + items_->Count() + bar + (buttons_ ? buttons_->Count() : 0);
+  return title + items_->Count() + bar + footerButtons() + (shownHelp() ? 1 : 0);
 }
 
 AccessibleNode QRNDisplay::accessibleChild(std::int32_t index) {
@@ -20,7 +21,8 @@ AccessibleNode QRNDisplay::accessibleChild(std::int32_t index) {
   if (index < items_->Count()) return {items_->Item(Variant(index + 1))->control()};
   index -= items_->Count();
   if (sbrVertical_.Visible() && index-- == 0) return {&sbrVertical_};
-  return {buttons_->Item(Variant(index + 1))->control()};
+  if (index < footerButtons()) return {buttons_->Item(Variant(index + 1))->control()};
+  return {shownHelp()};
 }
 
 // Of an item that costs the same however many there are.

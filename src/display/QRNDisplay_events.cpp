@@ -31,9 +31,11 @@ void QRNDisplay::bringIntoView(const host::Control& control) {
 
 void QRNDisplay::startEditCycle(const PanelItem& item) {
   const WeakRef<host::Control> self(this);
+  // A tool tip has taken the focus from a row, whose edit goes on.
+  if (toolTipShown_) return;
   if (!isEdited(item)) releaseEditCycle();
-  // Who heard of that end may have moved the item or removed it.
-  if (!self || editing_ || item.position() == 0) return;
+  // Who heard of that end may have moved the item, removed it, or shown help.
+  if (!self || editing_ || toolTipShown_ || item.position() == 0) return;
   editing_ = true;
   edited_ = item.weak_from_this();
   editIndex_ = item.position();
@@ -44,7 +46,7 @@ void QRNDisplay::startEditCycle(const PanelItem& item) {
 void QRNDisplay::endEditCycle(const PanelItem& item, bool changed) {
   if (!isEdited(item)) return;
   editChanged_ = changed;
-  releaseEditCycle();
+  if (!toolTipShown_) releaseEditCycle();
 }
 
 // The position is that of now: items before it may have come or gone meanwhile.
@@ -58,6 +60,12 @@ void QRNDisplay::releaseEditCycle() {
   raise(ParameterEndEdit, "ParameterEndEdit", index, changed);
 }
 
+// The tool tip itself hears that the application has been left, too, and goes by itself.
+void QRNDisplay::applicationLeft() {
+  toolTipShown_ = false;
+  releaseEditCycle();
+}
+
 // Its edit goes on, for the next start of another one to end it at the place that it had.
 void QRNDisplay::itemLeaves(const PanelItem& item) {
   if (!isEdited(item)) return;
@@ -68,18 +76,26 @@ void QRNDisplay::itemLeaves(const PanelItem& item) {
 // ---- the panel's own ----
 
 void QRNDisplay::keyDown(std::int16_t& keyCode, std::int16_t& shift) {
-  raise(KeyDown, "KeyDown", keyCode, shift);
+  if (keyCode != host::key::Escape || shift != host::shift::None || !toolTip())
+    return raise(KeyDown, "KeyDown", keyCode, shift);
+  keyCode = 0;
+  RemoveToolTip(true);
 }
 
 void QRNDisplay::keyPress(std::int16_t& keyAscii) {
-  // Escape closes the panel, so it goes no further while there is something to close it with.
-  if (keyAscii == host::key::Escape && !iconCloseHidden_)
+  // Escape closes the tool tip or the panel, so it goes no further while there is something to close.
+  if (keyAscii == host::key::Escape && (toolTip() || !iconCloseHidden_))
     keyAscii = 0;
   else
     raise(KeyPress, "KeyPress", keyAscii);
 }
 
 void QRNDisplay::keyUp(std::int16_t& keyCode, std::int16_t& shift) { raise(KeyUp, "KeyUp", keyCode, shift); }
+
+void QRNDisplay::passiveClick() {
+  RemoveToolTip(false);
+  raise(Click, "Click");
+}
 
 void QRNDisplay::mouseDown(host::MouseButton button, std::int16_t, Point) {
   if (button == host::MouseButton::Left) pressed_ = this;

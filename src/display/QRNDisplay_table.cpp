@@ -86,7 +86,9 @@ host::ClassTable QRNDisplayTable::make() {
                    "GetVerticalSpacing",
                    "GetMenuItemHeight",
                    "SetItemFocus",
-                   "GetActiveItem"};
+                   "GetActiveItem",
+                   "DisplayToolTip",
+                   "RemoveToolTip"};
   table.events = {"ItemGotFocus",
                   "ItemLostFocus",
                   "ItemMenuClick",

@@ -168,7 +168,7 @@ void clsQRNParam::controlEvent(std::string_view name, host::EventArgs arguments)
   else if (name == "EndEdit")
     owner->endEditCycle(*this, arguments[0].as<bool>());
   else if (name == "AppLostFocus")
-    owner->releaseEditCycle();
+    owner->applicationLeft();
   else if (name == "BackgroundClick" || name == "LabelClick" || name == "UnitClick")
     owner->passiveClick();
   else if (name == "ItemCheck") {

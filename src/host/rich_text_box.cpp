@@ -13,7 +13,6 @@ namespace {
 using richtext::CharFormat;
 using richtext::Document;
 
-constexpr double kMargin = 4;
 constexpr double kThumb = 3;  // as wide as the margin has room for
 constexpr double kSmallestThumb = 12;
 constexpr double kLinesPerNotch = 3;
@@ -132,6 +131,7 @@ void RichTextBox::paint(Surface& surface, Size size) {
   surface.fill({0, 0, size.width, size.height}, BackColor());
   paintText(surface, size);
   paintThumb(surface, size);
+  if (bordered_) surface.frame({0, 0, size.width, size.height}, kButtonShadow);
 }
 
 void RichTextBox::paintText(Surface& surface, Size size) {

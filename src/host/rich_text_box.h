@@ -17,6 +17,8 @@ namespace qrn::host {
 /// inside one means the place before it, one behind the end means the end.
 class RichTextBox final : public Editor {
  public:
+  static constexpr double kMargin = 4;  // pixels around the text
+
   std::string_view typeName() const override { return "RichTextBox"; }
 
   std::string Text() const { return document_.text(); }
@@ -27,6 +29,10 @@ class RichTextBox final : public Editor {
   void SetTextRTF(std::string_view rtf);
   bool Locked() const { return locked_; }
   void SetLocked(bool locked) { change(locked_, locked, Aspect::Enabled); }
+
+  /// A thin line around the box.
+  bool bordered() const { return bordered_; }
+  void setBordered(bool bordered) { change(bordered_, bordered, Aspect::Look); }
 
   // ---- the selection; errors: 380 for a negative position or length ----
 
@@ -127,6 +133,7 @@ class RichTextBox final : public Editor {
   mutable std::optional<RichTextLayout> layout_;
   double scrolledBy_ = 0;
   bool locked_ = false;
+  bool bordered_ = false;
 };
 
 }  // namespace qrn::host

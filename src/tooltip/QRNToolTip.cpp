@@ -36,6 +36,7 @@ std::string escaped(const std::string& text) {
 
 void QRNToolTip::initialize() {
   contain(rtfInfo_, *this, "rtfInfo");
+  rtfInfo_.setBordered(true);
   rtfInfo_.SetVisible(false);
 }
 
@@ -86,6 +87,12 @@ void QRNToolTip::keyDown(std::int16_t& keyCode, std::int16_t& shift) {
   if (keyCode != host::key::Escape || shift != host::shift::None) return;
   keyCode = 0;
   raise(TTClose, "TTClose");
+}
+
+void QRNToolTip::tellFactsOf(const host::Control& inside, host::AccessibleFacts& facts) const {
+  if (&inside != &rtfInfo_) return;
+  facts.role = host::AccessibleRole::Label;
+  facts.name = Text();
 }
 
 // ---- text ----

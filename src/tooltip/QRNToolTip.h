@@ -73,6 +73,8 @@ class QRNToolTip final : public host::UserControl {
   /// The box, or the control itself while the box is hidden.
   host::Control* focusTarget() override;
   void keyDown(std::int16_t& keyCode, std::int16_t& shift) override;
+  /// Tools read the help as one text.
+  void tellFactsOf(const host::Control& inside, host::AccessibleFacts& facts) const override;
   void childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) override {
     keyDown(keyCode, shift);
   }
