@@ -79,6 +79,8 @@ void addAButton(const Scene& at) { at.panel().Buttons().AddButton("", "Button");
 void removeTheButtons(const Scene& at) { at.panel().Buttons().RemoveAll(); }
 void removeAll(const Scene& at) { at.items().RemoveAll(); }
 void loseTheSurface(const Scene& at) { at.stage.hands().close(); }
+void showHelp(const Scene& at) { at.panel().DisplayToolTip(Variant(at.index), 3); }
+void removeHelp(const Scene& at) { at.panel().RemoveToolTip(at.number % 2 == 1); }
 void disableThePanel(const Scene& at) { at.panel().SetEnabled(false); }
 void raise(const Scene&) { RaiseError(kListenersError, "listener", kListenersText); }
 void closeThePanel(const Scene& at) { at.stage.close(); }
@@ -102,6 +104,8 @@ constexpr NamedDeed kDeeds[] = {
     {"adds a footer button", addAButton},
     {"removes the footer buttons", removeTheButtons},
     {"removes all items", removeAll},
+    {"shows help", showHelp},
+    {"removes the help", removeHelp},
     {"disables the panel", disableThePanel},
     {"lets the surface go", loseTheSurface},
     {"raises an error", raise},

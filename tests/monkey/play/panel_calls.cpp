@@ -126,6 +126,20 @@ void paint(Stage& stage, Numbers&) {
   stage.hands().paint();
 }
 
+void displayToolTip(Stage& stage, Numbers& numbers) {
+  static const float estimates[] = {1, 4, 0, 100};
+  const auto item = static_cast<std::int32_t>(numbers.below(10));
+  const float lines = numbers.oneOf(estimates);
+  stage.note("DisplayToolTip(", item, ", ", lines, ")");
+  stage.panel()->DisplayToolTip(Variant(item), lines);
+}
+
+void removeToolTip(Stage& stage, Numbers& numbers) {
+  const bool restoresFocus = anyFlag(numbers);
+  stage.note("RemoveToolTip(", shown(restoresFocus), ")");
+  stage.panel()->RemoveToolTip(restoresFocus);
+}
+
 }  // namespace
 
 void addPanelCalls(Actions& to) {
@@ -139,6 +153,8 @@ void addPanelCalls(Actions& to) {
   to.push_back({"SetTitle", 8, Actor::Host, setTitle});
   to.push_back({"ChangeImages", 6, Actor::Host, changeImages});
   to.push_back({"SavePanel", 3, Actor::Host, savePanel});
+  to.push_back({"DisplayToolTip", 12, Actor::Host, displayToolTip});
+  to.push_back({"RemoveToolTip", 6, Actor::Host, removeToolTip});
   to.push_back({"Paint", 12, Actor::User, paint});
 }
 
