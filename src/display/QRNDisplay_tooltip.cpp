@@ -14,14 +14,14 @@ constexpr double kLongestLine = 80;  // characters; the eye loses its way in lon
 
 }  // namespace
 
-QRNToolTip* QRNDisplay::toolTip() const { return toolTip_ && toolTip_->control ? toolTip_->tip : nullptr; }
+QRNToolTip* QRNDisplay::toolTip() const { return toolTip_ ? toolTip_->tip.get() : nullptr; }
 
 QRNToolTip* QRNDisplay::DisplayToolTip(const Variant& RelatedControl, float nEstimatedLines) {
   const WeakRef<host::Control> self(this);
   RemoveToolTip(false);
   if (!ignoringErrors([&] { createToolTip(); })) return nullptr;
-  const WeakRef<host::Control> guard(toolTip());
   QRNToolTip& tip = *toolTip();
+  const WeakRef<QRNToolTip> guard(&tip);
   toolTipShown_ = true;
   tip.SetRelatedControl(RelatedControl);
   estimatedLines_ = nEstimatedLines >= 1 ? nEstimatedLines : 1;
@@ -30,12 +30,13 @@ QRNToolTip* QRNDisplay::DisplayToolTip(const Variant& RelatedControl, float nEst
   tip.SetVisible(true);
   // The row that loses the focus by this tells its listeners.
   tip.SetFocus();
-  return self && guard ? &tip : nullptr;
+  return self ? guard.get() : nullptr;
 }
 
 void QRNDisplay::createToolTip() {
   auto& tip = static_cast<QRNToolTip&>(controls().add("QRNV16Controls2.QRNToolTip", kName, *this));
-  toolTip_ = std::make_unique<ShownToolTip>(tip);
+  toolTip_ = std::make_unique<ShownToolTip>();
+  toolTip_->tip = WeakRef<QRNToolTip>(&tip);
   toolTip_->closed = tip.TTClose.connect([this] { RemoveToolTip(true); });
   toolTip_->left = tip.AppLostFocus.connect([this] { toolTipLeft(); });
 }
@@ -43,10 +44,10 @@ void QRNDisplay::createToolTip() {
 // Whoever hears that the focus is back may show other help, or remove this one himself.
 void QRNDisplay::RemoveToolTip(bool bRestoreFocus) {
   const WeakRef<host::Control> self(this);
-  const WeakRef<host::Control> removed(toolTip());
+  const WeakRef<QRNToolTip> removed(toolTip());
   if (removed && bRestoreFocus) {
     ignoringErrors([&] {
-      if (host::Control* related = relatedTo(*toolTip())) related->SetFocus();
+      if (host::Control* related = relatedTo(*removed)) related->SetFocus();
     });
     if (!self || toolTip() != removed.get()) return;
   }
