@@ -43,12 +43,6 @@ void QRNDisplay::show() {
   arrange();
 }
 
-void QRNDisplay::resize() {
-  const WeakRef<host::Control> self(this);
-  arrange();
-  if (self) placeToolTip();
-}
-
 QRNImageList& QRNDisplay::ImageList() {
   if (!imageList_) {
     host::Control* own = controls().find("imlImages");
@@ -179,6 +173,8 @@ host::Control* QRNDisplay::nextTabStop(host::Control* from, bool forward) {
   const auto isTop = [&](const host::Control* c) {
     return c->Container() == &pbxContainer_ || c->Container() == &buttonsContainer_;
   };
+  // From a tool tip on, it goes to the neighbours of what that is about.
+  if (toolTip() && toolTip()->hasFocus()) from = relatedTo(*toolTip());
   while (from && !isTop(from)) from = from->Container();
   std::vector<host::Control*> stops;
   const auto addSorted = [&](auto controls) {

@@ -204,7 +204,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void initialize() override;
   /// A new panel has colours of its own, not those of the container.
   void initProperties() override {}
-  void resize() override;
+  void resize() override { arrange(); }
   void show() override;
   void realised() override { sbrVertical_.realiseWithSurface(); }
 

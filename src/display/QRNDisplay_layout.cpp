@@ -174,7 +174,10 @@ void QRNDisplay::setUpScrollBar(double contentHeight) {
   applyScroll();
 }
 
-void QRNDisplay::applyScroll() { pbxContainer_.scrollTo(sbrVertical_.Value()); }
+void QRNDisplay::applyScroll() {
+  pbxContainer_.scrollTo(sbrVertical_.Value());
+  placeToolTip();
+}
 
 bool QRNDisplay::wheel(double notches) {
   if (!sbrVertical_.Visible() || !sbrVertical_.Enabled()) return false;

@@ -130,6 +130,15 @@ TEST_F(PanelToolTip, FollowsItsRowWhenThePanelIsResized) {
   EXPECT_TRUE(tip()->Visible());
 }
 
+TEST_F(PanelToolTip, FollowsItsRowWhenTheItemsAreLaidOutOrScrolled) {
+  showTip("A");
+  for (int i = 0; i < 20; ++i) items().AddParameter("", qrnTypeString, Variant(1));
+  panel().LayoutControls(false);
+  EXPECT_EQ(placeOf(*tip()).bottom(), inside().bottom());
+  user->turnsWheel({50, 100}, -100);
+  EXPECT_EQ(placeOf(*tip()).top, placeOf(row(21)).bottom());
+}
+
 TEST_F(PanelToolTip, LiesAtTheTopWhenItsItemIsUnknown) {
   for (const Variant& related : {Variant("nobody"), Variant(9), Variant(), Variant(Null())}) {
     EXPECT_EQ(placeOf(showTip(related)).topLeft(), inside().topLeft());
@@ -245,6 +254,15 @@ TEST_F(PanelToolTip, StaysWhenItIsClickedItself) {
   user->clicks(*tip());
   EXPECT_NE(tip(), nullptr);
   EXPECT_EQ(events(), Events{});
+}
+
+TEST_F(PanelToolTip, IsLeftByTabToTheNeighboursOfItsRow) {
+  showTip("B");
+  user->presses(host::key::Tab);
+  EXPECT_TRUE(row(3).hasFocus());
+  showTip("B");
+  user->presses(host::key::Tab, host::shift::Shift);
+  EXPECT_TRUE(row(1).hasFocus());
 }
 
 // ---- edits are held back ----
