@@ -178,6 +178,24 @@ TEST_F(Stack, RestoresAPageAndThoseBelow) {
   EXPECT_EQ(page(3).bounds(), (Rect{20, 40, 380, 260}));
 }
 
+TEST_F(Stack, LeavesTheFirstPageAsItsHostHasMadeIt) {
+  addPages("..");
+  page(1).SetMaximized(true);
+  user->clicks(page(2).imgMaxRst());
+  user->clicks(page(2).imgMaxRst());
+  EXPECT_FALSE(page(2).Maximized());
+  EXPECT_TRUE(page(1).Maximized());
+}
+
+TEST_F(Stack, RestoresTheFirstPageWhenThatIsTheOne) {
+  addPages(".");
+  page(1).SetMaximized(true);
+  page(1).SetIconMaxRstHidden(false);
+  user->clicks(page(1).imgMaxRst());
+  EXPECT_FALSE(page(1).Maximized());
+  EXPECT_EQ(page(1).bounds(), (Rect{0, 0, 400, 300}));
+}
+
 TEST_F(Stack, KeepsEnlargedPagesEnlargedWhenItIsResized) {
   addPages("..");
   user->clicks(page(2).imgMaxRst());
