@@ -7,18 +7,6 @@ namespace {
 constexpr int kWidth = 140;
 constexpr int kHeight = 48;
 
-Point middleOf(const host::Control& control) {
-  const Rect at = control.onSurface();
-  return {at.left + at.width / 2, at.top + at.height / 2};
-}
-
-void hover(QRNMenuItem& button) { button.input().mouseMove(0, 0, middleOf(button)); }
-
-void press(QRNMenuItem& button) {
-  hover(button);
-  button.input().mouseDown(host::MouseButton::Left, 0, middleOf(button));
-}
-
 struct ButtonState {
   const char* name;
   void (*apply)(QRNMenuItem&);
@@ -26,8 +14,8 @@ struct ButtonState {
 
 const ButtonState kStates[] = {
     {"normal", [](QRNMenuItem&) {}},
-    {"hovered", hover},
-    {"pressed", press},
+    {"hovered", [](QRNMenuItem& button) { hover(button); }},
+    {"pressed", [](QRNMenuItem& button) { press(button); }},
     {"focused", [](QRNMenuItem& button) { button.SetFocus(); }},
     {"wished",
      [](QRNMenuItem& button) {

@@ -42,6 +42,22 @@ std::string nameOfLook(const testing::TestParamInfo<std::tuple<Look, double>>& t
   return (std::get<Look>(test.param) == Look::Dark ? "Dark" : "Light") + std::to_string(percent);
 }
 
+namespace {
+
+Point middleOf(const host::Control& control) {
+  const Rect at = control.onSurface();
+  return {at.left + at.width / 2, at.top + at.height / 2};
+}
+
+}  // namespace
+
+void hover(host::Control& control) { control.input().mouseMove(0, 0, middleOf(control)); }
+
+void press(host::Control& control) {
+  hover(control);
+  control.input().mouseDown(host::MouseButton::Left, 0, middleOf(control));
+}
+
 ShownPanel::ShownPanel(int width, int height) : canvas_(platform_.widget(*panel_)) {
   canvas_->resize(width, height);
 }

@@ -39,6 +39,10 @@ inline auto allLooks() {
 }
 std::string nameOfLook(const testing::TestParamInfo<std::tuple<Look, double>>& test);
 
+/// The mouse over the middle of a control, and its left button down there.
+void hover(host::Control& control);
+void press(host::Control& control);
+
 /// A panel on a window of its own.
 class ShownPanel {
  public:

@@ -6,20 +6,6 @@ namespace {
 constexpr int kWidth = 124;
 constexpr int kHeight = 30;
 
-Point middleOf(const host::Control& control) {
-  const Rect at = control.onSurface();
-  return {at.left + at.width / 2, at.top + at.height / 2};
-}
-
-void hover(QRNDisplay& panel, const host::Control& button) {
-  panel.input().mouseMove(0, 0, middleOf(button));
-}
-
-void press(QRNDisplay& panel, const host::Control& button) {
-  hover(panel, button);
-  panel.input().mouseDown(host::MouseButton::Left, 0, middleOf(button));
-}
-
 struct BarState {
   const char* name;
   void (*apply)(QRNDisplay&);
@@ -27,10 +13,10 @@ struct BarState {
 
 const BarState kBarStates[] = {
     {"normal", [](QRNDisplay&) {}},
-    {"hovered", [](QRNDisplay& panel) { hover(panel, panel.imgClose()); }},
-    {"", [](QRNDisplay& panel) { hover(panel, panel.imgMaxRst()); }},
-    {"pressed", [](QRNDisplay& panel) { press(panel, panel.imgClose()); }},
-    {"", [](QRNDisplay& panel) { press(panel, panel.imgMaxRst()); }},
+    {"hovered", [](QRNDisplay& panel) { hover(panel.imgClose()); }},
+    {"", [](QRNDisplay& panel) { hover(panel.imgMaxRst()); }},
+    {"pressed", [](QRNDisplay& panel) { press(panel.imgClose()); }},
+    {"", [](QRNDisplay& panel) { press(panel.imgMaxRst()); }},
     {"inactive", [](QRNDisplay& panel) { panel.SetActive(false); }},
     {"no close", [](QRNDisplay& panel) { panel.SetIconCloseHidden(true); }},
     {"no max.", [](QRNDisplay& panel) { panel.SetIconMaxRstHidden(true); }},
