@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/headless/headless_platform.h"
 
 // A value that ticks in a row which is scrolled out of view, as most of a thousand do.

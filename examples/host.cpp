@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/qt/qt_site.h"
 
 int main(int argc, char** argv) {

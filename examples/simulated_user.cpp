@@ -1,7 +1,7 @@
 #include <iostream>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/headless/user.h"
 
 int main() {

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "device_panels.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "edd/reader.h"
 #include "event_printer.h"
 #include "panel_text.h"

@@ -8,7 +8,7 @@
 #include <new>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/user.h"
 

@@ -5,7 +5,7 @@
 
 #include "controls/raised.h"
 #include "diag/QRNErrors.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "hooks/window_registry.h"
 #include "host/class_table.h"
 #include "platform/headless/headless_platform.h"

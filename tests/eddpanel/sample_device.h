@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "device_panels.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "edd/reader.h"
 #include "event_printer.h"
 #include "platform/headless/headless_platform.h"

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QToolTip>
 
-#include "display/library.h"
+#include "library/library.h"
 #include "edd/reader.h"
 #include "platform/qt/qt_site.h"
 

@@ -4,7 +4,7 @@
 
 #include "buttons/QRNMenuItem.h"
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "host/class_table.h"
 #include "host/property_bag.h"
 #include "platform/headless/headless_platform.h"

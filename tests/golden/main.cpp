@@ -4,7 +4,7 @@
 #include <QFontInfo>
 #include <cstdio>
 
-#include "display/library.h"
+#include "library/library.h"
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_site.h"
 

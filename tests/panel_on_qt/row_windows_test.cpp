@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/qt/qt_site.h"
 
 namespace qrn {

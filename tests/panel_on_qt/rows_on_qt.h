@@ -9,7 +9,7 @@
 #include <string>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/qt/qt_site.h"
 
 namespace qrn {

@@ -10,7 +10,7 @@
 
 #include "buttons/QRNMenuItem.h"
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "host/class_table.h"
 #include "images/built_in_pictures.h"
 #include "row/QRNEdit.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "display/QRNDisplay.h"
-#include "display/library.h"
+#include "library/library.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/user.h"
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "display/library.h"
+#include "library/library.h"
 
 namespace qrn::monkey {
 
