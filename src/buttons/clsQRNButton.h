@@ -19,19 +19,21 @@ class clsQRNButton final : public Object,
   std::string_view typeName() const override { return "clsQRNButton"; }
   Anchor& anchor() override { return anchor_; }
 
+  /// The host's own.
   const Variant& Tag() const { return tag_; }
   void SetTag(const Variant& tag) { tag_ = tag; }
   /// Milliseconds until the button clicks itself, at once for 0; anything below is off, and so it is after
   /// every click.
   std::int32_t AutoFireDelay() const { return autoFireDelay_; }
   void SetAutoFireDelay(std::int32_t milliseconds);
-  /// The narrowest width that shows the caption, and the one that the button has where there is room.
+  /// The narrowest width that shows the caption.
   std::int32_t MinWidth() const { return minWidth_; }
   void SetMinWidth(std::int32_t width) { minWidth_ = width; }
+  /// The one that the button has where there is room, if it is more.
   std::int32_t StdWidth() const { return stdWidth_; }
   void SetStdWidth(std::int32_t width) { stdWidth_ = width; }
 
-  /// Errors: 0x80040001 once the button has been removed.
+  /// The button itself. Errors: 0x80040001 once it has been removed.
   host::CommandButton& Control() const;
 
   /// Gives the button its caption, its height and its widths, in the panel's font.

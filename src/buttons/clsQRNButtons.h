@@ -26,13 +26,16 @@ class clsQRNButtons final : public Object {
   /// AtPosition selects, or else at the end. Null when that fails, as with a name in use.
   ButtonPtr AddButton(std::string_view CtlName, const std::string& Caption,
                       const std::optional<Variant>& AtPosition = {});
-  /// Errors: 5 for an unknown key, 9 for a position outside; an object that is not here is left alone.
+  /// Removes a button and its control. Errors: 5 for an unknown key, 9 for a position outside; an object that
+  /// is not here is left alone.
   void Remove(const Variant& aSelector);
+  /// Removes all buttons, last first.
   void RemoveAll();
+  /// The number of buttons.
   std::int32_t Count() const { return buttons_.count(); }
-  /// Errors: 0x80040003 when nothing is selected.
+  /// The position of a button. Errors: 0x80040003 when nothing is selected.
   std::int32_t GetIndexOf(const Variant& aSelector) const;
-  /// Errors: 5, 9, and 0x80040003 for an object that is not here.
+  /// The button that is selected. Errors: 5, 9, and 0x80040003 for an object that is not here.
   ButtonPtr Item(const Variant& aSelector) const;
 
   /// Over the buttons in their order.

@@ -30,53 +30,74 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   const host::ClassTable& classTable() const override;
   Anchor& anchor() override { return UserControl::anchor(); }
 
+  /// The host's own; the panel does nothing with it.
   const Variant& ExtraData() const { return extraData_; }
   void SetExtraData(const Variant& data) { extraData_ = data; }
+  /// The parameters and actions, in the order in which they are laid out.
   clsQRNCollection& Items() { return *items_; }
+  /// The controls of the panel by name, those of the items among them.
   host::Controls& ControlsCollection() { return controls(); }
+  /// What the items stand on, and scrolls.
   host::PictureBox& ControlsContainer() { return pbxContainer_; }
+  /// What the buttons of the footer stand on.
   host::PictureBox& ButtonsContainer() override { return buttonsContainer_; }
   /// The panel's own list, made when it is first read, unless the caller has set another one.
   QRNImageList& ImageList();
   void SetImageList(QRNImageList* list) { imageList_ = WeakRef<QRNImageList>(list); }
 
+  /// The text of the title bar.
   const std::string& Title() const { return lblTitle_.Caption(); }
   void SetTitle(const std::string& title);
+  /// Of the panel, and of items that are added from then on.
   host::Color BackColor() const { return backColor(); }
   void SetBackColor(host::Color color);
+  /// Of the title of an active panel in standard style, and of items that are added from then on.
   host::Color ForeColor() const { return foreColor(); }
   void SetForeColor(host::Color color);
+  /// Of title and footer, and of items that are added from then on; automatic sizes follow from it.
   const host::FontPtr& Font() const { return font(); }
   void SetFont(host::FontPtr font);
+  /// The frame around everything.
   qrnEdgeType BorderStyle() const { return borderStyle_; }
   void SetBorderStyle(qrnEdgeType style) { store(borderStyle_, style, "BorderStyle", After::Repaint); }
   using Control::Enabled;
+  /// A title bar in dialog style shows it.
   void SetEnabled(bool enabled) override;
+  /// Whether the title's button shows "restore" instead of "maximise". The host sets it; the panel never
+  /// changes its size itself.
   bool Maximized() const { return maximized_; }
   void SetMaximized(bool maximized) { store(maximized_, maximized, "Maximized", After::TitleLook); }
+  /// Whether the title bar goes without its close button.
   bool IconCloseHidden() const { return iconCloseHidden_; }
   void SetIconCloseHidden(bool hidden) {
     store(iconCloseHidden_, hidden, "IconCloseHidden", After::TitleLook);
   }
+  /// Whether the title bar goes without its button to maximise and restore.
   bool IconMaxRstHidden() const { return iconMaxRstHidden_; }
   void SetIconMaxRstHidden(bool hidden) {
     store(iconMaxRstHidden_, hidden, "IconMaxRstHidden", After::TitleLook);
   }
+  /// Whether there is a title bar, and how it looks.
   qrnTitleStyle TitleStyle() const { return titleStyle_; }
   void SetTitleStyle(qrnTitleStyle style);
-  /// Run time only. Errors: 394 when read and 383 when set at design time.
+  /// While False nothing is arranged or laid out; it becomes True when the panel is shown. Run time only.
+  /// Errors: 394 when read and 383 when set at design time.
   bool Redraw() const;
   void SetRedraw(bool redraw);
+  /// Of the title's button while it means "maximise".
   const std::string& MaxButtonToolTip() const { return maxButtonToolTip_; }
   void SetMaxButtonToolTip(const std::string& text) {
     store(maxButtonToolTip_, text, "MaxButtonToolTip", After::TitleLook);
   }
+  /// Of the title's button while it means "restore".
   const std::string& RstButtonToolTip() const { return rstButtonToolTip_; }
   void SetRstButtonToolTip(const std::string& text) {
     store(rstButtonToolTip_, text, "RstButtonToolTip", After::TitleLook);
   }
+  /// Of the title's close button.
   const std::string& CloseButtonToolTip() const { return imgClose_.ToolTipText(); }
   void SetCloseButtonToolTip(const std::string& text);
+  /// Between the panel's edge and the items.
   std::int32_t LeftMargin() const { return leftMargin_; }
   void SetLeftMargin(std::int32_t margin) { store(leftMargin_, margin, "LeftMargin", After::Arrange); }
   std::int32_t TopMargin() const { return topMargin_; }
@@ -85,15 +106,17 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void SetRightMargin(std::int32_t margin) { store(rightMargin_, margin, "RightMargin", After::Arrange); }
   std::int32_t BottomMargin() const { return bottomMargin_; }
   void SetBottomMargin(std::int32_t margin) { store(bottomMargin_, margin, "BottomMargin", After::Arrange); }
-  /// These three take effect at the next LayoutControls.
+  /// Between two rows, from the next LayoutControls on; GetVerticalSpacing has what −1 means.
   std::int32_t VerticalSpacing() const { return verticalSpacing_; }
   void SetVerticalSpacing(std::int32_t spacing) {
     store(verticalSpacing_, spacing, "VerticalSpacing", After::Nothing);
   }
+  /// Between the parts of a row, from the next LayoutControls on; GetHorizontalSpacing has what −1 means.
   std::int32_t HorizontalSpacing() const { return horizontalSpacing_; }
   void SetHorizontalSpacing(std::int32_t spacing) {
     store(horizontalSpacing_, spacing, "HorizontalSpacing", After::Nothing);
   }
+  /// Of an action button, from the next LayoutControls on; GetMenuItemHeight has what −1 means.
   std::int32_t MenuItemHeight() const { return menuItemHeight_; }
   void SetMenuItemHeight(std::int32_t height) {
     store(menuItemHeight_, height, "MenuItemHeight", After::Nothing);
@@ -103,7 +126,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void SetActive(bool active) { store(active_, active, "Active", After::TitleLook); }
   /// The buttons of the footer, made when they are first read: without any there is no footer.
   clsQRNButtons& Buttons();
-  /// 0 left, 1 right, 2 centre.
+  /// Of the footer's buttons: 0 left, 1 right, 2 centre.
   std::int32_t ButtonsAlignment() const { return buttonsAlignment_; }
   void SetButtonsAlignment(std::int32_t alignment) {
     store(buttonsAlignment_, alignment, "ButtonsAlignment", After::LayoutButtons);
@@ -114,8 +137,11 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   bool tallContent() const { return tallContent_; }
   void SetTallContent(bool tall) { tallContent_ = tall; }
 
+  /// Removes all items, last first, and hides the scroll bar.
   void RemoveControls();
-  /// Stacks the items; True lays out only if a row has become too narrow, or all of a column too wide.
+  /// Stacks the visible items and sets the tab order; True lays out only if a row has become too narrow, or
+  /// all of a column too wide. Errors: 6 after that, for content taller than the container by more than 32767
+  /// pixels, unless tallContent is set.
   void LayoutControls(bool bAdjustParamsOnly);
   /// Places the footer's buttons in a row; where it is too short, the first ones give up width first.
   void LayoutButtons();
@@ -123,10 +149,13 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   /// integer part is the absolute slack of those, its fraction the relative one.
   void SetColumnLayout(std::int32_t nLabelWeight, std::int32_t nValueWeight, std::int32_t nUnitWeight,
                        float Tolerance);
+  /// HorizontalSpacing, or else the width of a "0".
   std::int32_t GetHorizontalSpacing() const;
+  /// VerticalSpacing, or else a third of the height of a line, rounded up.
   std::int32_t GetVerticalSpacing() const;
+  /// MenuItemHeight, or else twice the height of a line, rounded up.
   std::int32_t GetMenuItemHeight() const;
-  /// To the item, or to the item container when none is selected.
+  /// Gives the focus to the item, or to the item container when none is selected.
   void SetItemFocus(const Variant& aItemSelector);
   /// The position of the item with the focus, or else, if wished, of the last one under the mouse; 0 for
   /// none.
@@ -136,33 +165,63 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   /// host::referenceTo), and gives it the focus; the edit of the row that had it ends no sooner than the tip
   /// has gone. Null when there can be none, or a listener has removed it already.
   QRNToolTip* DisplayToolTip(const Variant& RelatedControl, float nEstimatedLines);
+  /// Takes the tool tip away, if there is one, and gives the focus back to the item that it was about if
+  /// wished.
   void RemoveToolTip(bool bRestoreFocus);
 
-  Event<std::int32_t&> ItemGotFocus;
-  Event<std::int32_t&> ItemLostFocus;
-  Event<std::int32_t&, std::int16_t&> ItemMenuClick;
-  Event<std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyDown;
-  Event<std::int32_t&, std::int16_t&> ItemKeyPress;
-  Event<std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyUp;
-  Event<std::int32_t&> ActionLayout;
-  Event<std::int32_t&> ActionClick;
-  Event<std::int32_t&> ParameterLayout;
-  Event<std::int32_t&> ParameterChange;
-  Event<std::int32_t&, std::int16_t&> ParameterItemCheck;
-  Event<std::int32_t&> ParameterIcon1Click;
-  Event<std::int32_t&> ParameterIcon2Click;
-  Event<std::int32_t&> ParameterClick;
-  Event<std::int32_t&> ParameterStartEdit;
-  Event<std::int32_t&, bool&> ParameterEndEdit;
-  Event<std::int32_t&> ParameterStatusChange;
-  Event<std::int32_t&> ButtonLayout;
-  Event<std::int32_t&> ButtonClick;
-  Event<std::int16_t&, std::int16_t&> KeyDown;
-  Event<std::int16_t&> KeyPress;
-  Event<std::int16_t&, std::int16_t&> KeyUp;
+  /// The focus has come to a row or button, which has been scrolled into view.
+  Event<std::int32_t& /*ItemIndex*/> ItemGotFocus;
+  /// The focus has left a row or button.
+  Event<std::int32_t& /*ItemIndex*/> ItemLostFocus;
+  /// An entry of a row's or button's context menu was chosen; the host's own count from 1.
+  Event<std::int32_t& /*ItemIndex*/, std::int16_t& /*MenuItemIndex*/> ItemMenuClick;
+  /// A key has gone down in a row or button; setting its code to 0 takes it away.
+  Event<std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> ItemKeyDown;
+  /// A character was typed in a row or button; setting it to 0 takes it away.
+  Event<std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyAscii*/> ItemKeyPress;
+  /// A key has come up in a row or button.
+  Event<std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> ItemKeyUp;
+  /// An action was added and has its default look, which the host may change now.
+  Event<std::int32_t& /*ItemIndex*/> ActionLayout;
+  /// An action button was clicked, or chosen with Space or Enter.
+  Event<std::int32_t& /*ItemIndex*/> ActionClick;
+  /// A parameter was added and has its default look: the time to set its caption, unit and rules.
+  Event<std::int32_t& /*ItemIndex*/> ParameterLayout;
+  /// What the editor of a row shows has changed, with every character that is typed.
+  Event<std::int32_t& /*ItemIndex*/> ParameterChange;
+  /// An entry of a bit field was ticked or unticked; entries count from 0.
+  Event<std::int32_t& /*ItemIndex*/, std::int16_t& /*Item*/> ParameterItemCheck;
+  /// The first icon of a row was clicked.
+  Event<std::int32_t& /*ItemIndex*/> ParameterIcon1Click;
+  /// The second icon of a row, the one for its state, was clicked.
+  Event<std::int32_t& /*ItemIndex*/> ParameterIcon2Click;
+  /// A check box, drop list or bit list was clicked.
+  Event<std::int32_t& /*ItemIndex*/> ParameterClick;
+  /// The user has gone into a row. The edit of another one has ended before.
+  Event<std::int32_t& /*ItemIndex*/> ParameterStartEdit;
+  /// The user has left a row; bChanged tells whether its value is another one than was accepted last. Held
+  /// back while a tool tip is shown.
+  Event<std::int32_t& /*ItemIndex*/, bool& /*bChanged*/> ParameterEndEdit;
+  /// The state or the error of a parameter is another one.
+  Event<std::int32_t& /*ItemIndex*/> ParameterStatusChange;
+  /// A button was added to the footer and has its default look.
+  Event<std::int32_t& /*ButtonIndex*/> ButtonLayout;
+  /// A button of the footer was clicked or has clicked itself. Raised after the code that led to it has
+  /// returned.
+  Event<std::int32_t& /*ButtonIndex*/> ButtonClick;
+  /// A key has gone down on the panel itself. Escape that closes a tool tip is not told.
+  Event<std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyDown;
+  /// A character was typed on the panel itself. Escape is not told where there is a close button or tool tip.
+  Event<std::int16_t& /*KeyAscii*/> KeyPress;
+  /// A key has come up on the panel itself.
+  Event<std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyUp;
+  /// The title, the background, or a caption, unit or button that takes no clicks was clicked.
   Event<> Click;
+  /// The close button was clicked; the host takes the panel away.
   Event<> DisplayClose;
+  /// The title was clicked twice, or its button once, while Maximized; the host restores the size.
   Event<> DisplayRestore;
+  /// The title was clicked twice, or its button once, while not Maximized; the host makes the panel larger.
   Event<> DisplayMaximize;
 
   // ---- the parts, for tests and platforms ----

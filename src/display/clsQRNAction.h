@@ -11,9 +11,11 @@ class clsQRNAction final : public PanelItem {
  public:
   std::string_view typeName() const override { return "clsQRNAction"; }
 
-  /// Errors: 0x80040001 once the item has been removed.
+  /// The button itself. Errors: 0x80040001 once the item has been removed.
   QRNMenuItem& Control() const { return static_cast<QRNMenuItem&>(requireControl()); }
 
+  /// Gives the button the icon of a kind of action, and tells the host with ActionLayout. AddAction has done
+  /// so already.
   void SetDefaultLayout(ddtypeAction ActionType);
 
  private:

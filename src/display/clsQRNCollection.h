@@ -25,16 +25,20 @@ class clsQRNCollection final : public Object {
   /// that a control of the panel has, 457 for a key in use.
   std::shared_ptr<clsQRNParam> AddParameter(std::string_view CtlName, qrnValueType ParamType,
                                             const std::optional<Variant>& AtPosition = {});
+  /// The same with a button. Errors: 727 and 457 as above.
   std::shared_ptr<clsQRNAction> AddAction(std::string_view CtlName, ddtypeAction ActionType,
                                           const std::optional<Variant>& AtPosition = {});
 
-  /// Errors: 5 for an unknown key, 9 for a position outside; an object that is not here is left alone.
+  /// Removes an item and its control. Errors: 5 for an unknown key, 9 for a position outside; an object that
+  /// is not here is left alone.
   void Remove(const Variant& aSelector);
+  /// Removes all items, last first.
   void RemoveAll();
+  /// The number of items.
   std::int32_t Count() const { return items_.count(); }
-  /// Errors: 0x80040003 when nothing is selected.
+  /// The position of an item. Errors: 0x80040003 when nothing is selected.
   std::int32_t GetIndexOf(const Variant& aSelector) const;
-  /// Errors: 5, 9, and 0x80040003 for an object that is not here.
+  /// The item that is selected. Errors: 5, 9, and 0x80040003 for an object that is not here.
   PanelItemPtr Item(const Variant& aSelector) const;
 
   /// Over the items in their order.

@@ -19,6 +19,7 @@ class QRNDisplay;
 /// which reach the panel with the item's position.
 class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> {
  public:
+  /// The host's own.
   const Variant& Tag() const { return tag_; }
   void SetTag(const Variant& tag) { tag_ = tag; }
 

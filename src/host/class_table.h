@@ -117,6 +117,7 @@ class Default {
   static Default ambientBackColor() { return Default(From::BackColor); }
   static Default ambientForeColor() { return Default(From::ForeColor); }
 
+  bool isAmbient() const { return from_ != From::Constant; }
   Variant of(const UserControl& control) const;
   /// A constant as a property of that type has it.
   Default as(PropertyType type) const;

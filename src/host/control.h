@@ -33,46 +33,55 @@ class Control : public Object {
   Control& operator=(const Control&) = delete;
   ~Control() override;
 
+  /// Under which the holder has it.
   const std::string& Name() const { return name_; }
   /// The user control whose collection made this one; null for one that the host made.
   UserControl* Parent() const { return parent_; }
   /// Gives coordinates and clipping only.
   ContainerControl* Container() const { return container_; }
 
+  /// Whether the control is to be seen, when what it lies on is.
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
+  /// Whether it takes input, when what it lies on does.
   bool Enabled() const { return enabled_; }
   virtual void SetEnabled(bool enabled);
-  /// Stored as given.
+  /// Its place when Tab goes round. Stored as given.
   std::int32_t TabIndex() const { return tabIndex_; }
   void SetTabIndex(std::int32_t index) { tabIndex_ = index; }
 
+  /// From the left edge of the container, in its scale units, as the other three.
   double Left() const { return bounds_.left; }
+  /// From the upper edge of the container.
   double Top() const { return bounds_.top; }
+  /// With its frame.
   double Width() const { return bounds_.width; }
+  /// With its frame.
   double Height() const { return bounds_.height; }
   const Rect& bounds() const { return bounds_; }
   void SetLeft(double left) { Move(left, Top(), Width(), Height()); }
   void SetTop(double top) { Move(Left(), top, Width(), Height()); }
   void SetWidth(double width) { Move(Left(), Top(), width, Height()); }
   void SetHeight(double height) { Move(Left(), Top(), Width(), height); }
+  /// All four at once.
   void Move(double left, double top, double width, double height);
 
+  /// What shows when the mouse rests on the control.
   const std::string& ToolTipText() const;
   virtual void SetToolTipText(std::string_view text);
 
-  /// Nothing happens to a control that can't take the focus.
+  /// Gives the focus to the control; nothing happens to one that can't take it.
   void SetFocus();
   /// The focus is on this control or on one inside it.
   bool hasFocus() const;
 
-  /// A window for this control, made when it is first asked for, and kept.
+  /// The handle of the control's window, which is made when it is first asked for, and kept.
   std::int32_t hwnd();
   /// The same, where a handle is wider than a Long.
   WindowHandle window();
 
   /// Every event of the control by its name, arguments by reference.
-  Event<std::string_view, EventArgs> ObjectEvent;
+  Event<std::string_view /*name*/, EventArgs /*arguments*/> ObjectEvent;
 
   // ---- between controls and platforms ----
 

@@ -19,12 +19,16 @@ class MenuEntry final : public Object {
   explicit MenuEntry(std::string_view caption) : caption_(caption) {}
   std::string_view typeName() const override { return "Menu"; }
 
+  /// With an & before the letter that chooses it.
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption) { caption_ = caption; }
+  /// Whether the menu shows it.
   bool Visible() const { return visible_; }
   void SetVisible(bool visible) { visible_ = visible; }
+  /// Whether it can be chosen.
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled) { enabled_ = enabled; }
+  /// Whether it has a mark.
   bool Checked() const { return checked_; }
   void SetChecked(bool checked) { checked_ = checked; }
 

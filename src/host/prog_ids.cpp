@@ -30,14 +30,15 @@ constexpr ProgId kStandardClasses[] = {
     {"RICHTEXT.RichtextCtrl", make<RichTextBox>},
 };
 
-std::span<const ProgId> controlClasses;
+std::span<const ProgId> classesAbove;
 
 }  // namespace
 
-void setControlClasses(std::span<const ProgId> classes) { controlClasses = classes; }
+void setControlClasses(std::span<const ProgId> classes) { classesAbove = classes; }
+std::span<const ProgId> controlClasses() { return classesAbove; }
 
 Owned<Control> createByProgId(std::string_view progId) {
-  for (const auto list : {std::span<const ProgId>(kStandardClasses), controlClasses}) {
+  for (const auto list : {std::span<const ProgId>(kStandardClasses), classesAbove}) {
     for (const ProgId& known : list) {
       if (text::sameName(known.name, progId)) return known.create();
     }

@@ -19,5 +19,6 @@ Owned<Control> createByProgId(std::string_view progId);
 /// The classes of the layer above, which it hands down once; a static library would drop self-registering
 /// ones.
 void setControlClasses(std::span<const ProgId> classes);
+std::span<const ProgId> controlClasses();
 
 }  // namespace qrn::host

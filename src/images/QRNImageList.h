@@ -16,9 +16,9 @@ class QRNImageList final : public host::UserControl {
   std::string_view typeName() const override { return "QRNImageList"; }
   const host::ClassTable& classTable() const override;
 
-  /// Errors: 340 for a number that has no picture.
+  /// A picture by its number. Errors: 340 for a number that has none.
   host::PicturePtr Image(qrnImageId ImageId) const;
-  /// Takes a picture's place, adds one, or with none gives the number free again.
+  /// Setting one takes a picture's place or adds it; setting none gives the number free again.
   void SetImage(qrnImageId ImageId, host::PicturePtr picture);
   /// One more than the highest number in use. Errors: 6 when that is the highest there can be.
   qrnImageId GetNextFreeImageIndex() const;

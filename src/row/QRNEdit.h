@@ -33,36 +33,49 @@ class QRNEdit final : public host::UserControl {
   const host::ClassTable& classTable() const override;
 
   // ---- the row ----
+  /// The unit of all lengths of the row: 1 twips, 2 points, 3 pixels, 4 characters, 5 inches, 6 millimetres,
+  /// 7 centimetres, 8 hundredths of a millimetre.
   std::int16_t ScaleMode() const { return scaleMode(); }
   void SetScaleMode(std::int16_t mode);
+  /// Of the row, and of a check box in it.
   host::Color BackColor() const { return backColor(); }
   void SetBackColor(host::Color color);
+  /// Of caption and unit; that of the value is ValueForeColor.
   host::Color ForeColor() const { return foreColor(); }
   void SetForeColor(host::Color color);
   using Control::Enabled;
+  /// The editor follows; a check box stays disabled while it is locked.
   void SetEnabled(bool enabled) override;
+  /// Of all parts.
   const host::FontPtr& Font() const { return font(); }
   void SetFont(host::FontPtr font);
+  /// Between neighbouring parts.
   std::int32_t HorizontalSpacing() const { return horizontalSpacing_; }
   void SetHorizontalSpacing(std::int32_t spacing) {
     storeAndLayOut(horizontalSpacing_, spacing, "HorizontalSpacing");
   }
-  /// How the parts lie in the width of the row.
+  /// How the parts lie in the width of the row: 0 left, 1 right, 2 centre.
   std::int32_t Alignment() const { return alignment_; }
   void SetAlignment(std::int32_t alignment) { storeAndLayOut(alignment_, alignment, "Alignment"); }
-  /// While False nothing is laid out. Run time only: 394 when read and 383 when set at design time.
+  /// While False nothing is laid out; it becomes True when the row is shown. Run time only: 394 when read and
+  /// 383 when set at design time.
   bool Redraw() const;
   void SetRedraw(bool redraw);
 
   // ---- the caption ----
+  /// Of the caption's column; the panel sets it.
   std::int32_t LabelWidth() const { return widthOf(lblLabel_); }
   void SetLabelWidth(std::int32_t width) { setPartWidth(lblLabel_, width, "LabelWidth"); }
+  /// Of the text in its column: 0 left, 1 right, 2 centre.
   std::int32_t LabelAlignment() const { return lblLabel_.Alignment(); }
   void SetLabelAlignment(std::int32_t alignment);
+  /// What shows when the mouse rests there.
   const std::string& LabelToolTip() const { return lblLabel_.ToolTipText(); }
   void SetLabelToolTip(const std::string& text) { setPartToolTip(lblLabel_, text, "LabelToolTip"); }
+  /// The text itself. Nothing is laid out for another one.
   const std::string& LabelText() const { return lblLabel_.Caption(); }
   void SetLabelText(const std::string& text) { setPartCaption(lblLabel_, text, "LabelText"); }
+  /// Whether it takes part in the row.
   bool LabelVisible() const { return labelVisible_; }
   void SetLabelVisible(bool visible) { storeAndLayOut(labelVisible_, visible, "LabelVisible"); }
 
@@ -70,17 +83,21 @@ class QRNEdit final : public host::UserControl {
   /// 1 before the caption, 2 before the value, 3 before the unit, 4 behind it; below 1 nowhere.
   std::int32_t Icon1Column() const { return icon1_.column; }
   void SetIcon1Column(std::int32_t column) { storeAndLayOut(icon1_.column, column, "Icon1Column"); }
+  /// What shows when the mouse rests on the icon.
   const std::string& Icon1ToolTip() const { return icon1_.image.ToolTipText(); }
   void SetIcon1ToolTip(const std::string& text) { setPartToolTip(icon1_.image, text, "Icon1ToolTip"); }
+  /// None leaves no room for the icon but a spacing.
   const host::PicturePtr& Icon1Picture() const { return icon1_.image.Picture(); }
   void SetIcon1Picture(host::PicturePtr picture) {
     setIconPicture(icon1_, std::move(picture), "Icon1Picture");
   }
+  /// Whether the icon takes part in the row.
   bool Icon1Visible() const { return icon1_.visible; }
   void SetIcon1Visible(bool visible) { storeAndLayOut(icon1_.visible, visible, "Icon1Visible"); }
   /// Not drawn, but its room stays.
   bool Icon1Hidden() const { return icon1_.hidden; }
   void SetIcon1Hidden(bool hidden) { setIconHidden(icon1_, hidden, "Icon1Hidden"); }
+  /// Whether the icon can be clicked, and how it frames itself.
   qrnButtonMode Icon1ButtonMode() const { return icon1_.mode; }
   void SetIcon1ButtonMode(qrnButtonMode mode) { setIconMode(icon1_, mode, "Icon1ButtonMode"); }
   std::int32_t Icon2Column() const { return icon2_.column; }
@@ -99,9 +116,11 @@ class QRNEdit final : public host::UserControl {
   void SetIcon2ButtonMode(qrnButtonMode mode) { setIconMode(icon2_, mode, "Icon2ButtonMode"); }
 
   // ---- the value ----
+  /// Chooses the editor and the conversions. One that needs another editor begins empty, with the colour,
+  /// tool tip and width of the one before.
   qrnValueType ValueType() const { return valueType_; }
   void SetValueType(qrnValueType type);
-  /// 0 while there is no editor.
+  /// Of the editor's column; 0 while there is no editor.
   std::int32_t ValueWidth() const;
   void SetValueWidth(std::int32_t width);
   /// The value as the editor shows it; a hexadecimal row answers the decimal digits.
@@ -110,51 +129,76 @@ class QRNEdit final : public host::UserControl {
   /// The typed value; Null where ValueError answers why.
   Variant Value() const;
   void SetValue(const Variant& value);
+  /// Why what was entered is no value.
   qrnErrorCode ValueError() const;
+  /// Whether the editor shows something else than was accepted last; always True for an array.
   bool ValueChanged() const;
-  /// False takes the editor's content as the new accepted value.
+  /// Setting it to False takes the editor's content as the new accepted value.
   void SetValueChanged(bool changed);
+  /// What shows when the mouse rests on the editor.
   const std::string& ValueToolTip() const;
   void SetValueToolTip(const std::string& text);
+  /// Of the text in its editor: 0 left, 1 right, 2 centre.
   std::int32_t ValueAlignment() const { return valueAlignment_; }
   void SetValueAlignment(std::int32_t alignment);
+  /// Whether the user can not change the value, but still select and copy it.
   bool Locked() const { return locked_; }
   void SetLocked(bool locked);
+  /// Whether the editor takes part in the row.
   bool ValueVisible() const { return valueVisible_; }
   void SetValueVisible(bool visible) { storeAndLayOut(valueVisible_, visible, "ValueVisible"); }
+  /// Of the text in the editor.
   host::Color ValueForeColor() const;
   void SetValueForeColor(host::Color color);
+  /// Whether what is typed becomes upper case.
   bool ValueUpperCase() const { return valueUpperCase_; }
   void SetValueUpperCase(bool upperCase);
-  /// 0 to 65535; anything else is taken as 65535.
+  /// In characters, 0 for no limit; anything outside 0 to 65535 is taken as 65535.
   std::int32_t ValueMaxLength() const { return valueMaxLength_; }
   void SetValueMaxLength(std::int32_t length);
+  /// Whether a text box shows stars.
   bool Password() const { return password_; }
   void SetPassword(bool password);
+  /// What a value has to keep to: for texts a Like pattern ("###-??"), for numbers a list of ranges
+  /// ("..-1;1..100") with decimal points. Empty allows everything.
   const std::string& ValueRule() const { return settings_.rule(); }
   void SetValueRule(const std::string& rule);
+  /// The characters that a text may have, as in the brackets of a Like pattern ("0-9A-F"). Empty allows all.
   const std::string& ValueCharSet() const { return settings_.charSet(); }
   void SetValueCharSet(const std::string& charSet);
+  /// The pattern in which numbers and dates are shown, as of Format ("0.00"). Empty shows them as they are.
   const std::string& ValueFormat() const { return settings_.format(); }
   void SetValueFormat(const std::string& format);
 
   // The entries of a list or bit field. Errors at design time: 394, and 383 when names and items are set.
+  /// The number of entries of a list or bit field: new ones are empty, 0 or less removes all. Errors: 394 at
+  /// design time.
   std::int16_t ValueCount() const;
   void SetValueCount(std::int16_t count);
+  /// The text of an entry, counted from 0; one set outside the list becomes a new last entry. Errors: 394
+  /// when read and 383 when set at design time, 380 when read outside the list.
   std::string ValueNames(std::int32_t i) const;
   void SetValueNames(std::int32_t i, const std::string& name);
+  /// The number of an entry, counted from 0, which means something to the host only. Errors: 394 when read
+  /// and 383 when set at design time, 380 outside the list.
   std::int32_t ValueItems(std::int32_t i) const;
   void SetValueItems(std::int32_t i, std::int32_t item);
 
   // The elements of an array.
+  /// Of the elements; kept for the host only. Ignored before ArraySize is set.
   qrnValueType ArrayType() const;
   void SetArrayType(qrnValueType type);
+  /// Set above 0, all elements are Empty.
   std::int32_t ArraySize() const;
   void SetArraySize(std::int32_t size);
+  /// An element, counted from 0: Null outside the array. One that is set becomes the current one and is kept
+  /// as the text that ValueFormat makes of it; ignored before ArraySize is set.
   Variant ArrayValue(std::int32_t Index) const;
   void SetArrayValue(std::int32_t Index, const Variant& value);
+  /// The element that Value is about, counted from 0; −1 for none.
   std::int32_t CurrentArrayValueIndex() const;
   void SetCurrentArrayValueIndex(std::int32_t index);
+  /// The first element when the current index lies outside. Errors: 9 while there are no elements.
   Variant CurrentArrayValue() const;
   void SetCurrentArrayValue(const Variant& value);
 
@@ -171,39 +215,66 @@ class QRNEdit final : public host::UserControl {
   void SetUnitVisible(bool visible) { storeAndLayOut(unitVisible_, visible, "UnitVisible"); }
 
   // ---- sizes ----
+  /// The height of a line with what is around it, or of all entries of a bit list.
   std::int32_t GetMinHeight() const;
+  /// The width of the picture, with its frame if it can be clicked.
   std::int32_t GetIcon1Width() const { return iconWidth(icon1_); }
   std::int32_t GetIcon2Width() const { return iconWidth(icon2_); }
+  /// The width of the text, rounded up.
   std::int32_t GetMinLabelWidth() const;
+  /// The width of the text or of the widest entry, with what the editor needs around it, rounded up; 0
+  /// without an editor.
   std::int32_t GetMinValueWidth() const;
   std::int32_t GetMinUnitWidth() const;
-  /// With nothing visible minus one spacing. Hidden icons count, invisible parts do not.
+  /// The width of all parts; with nothing visible minus one spacing. Hidden icons count, invisible parts do
+  /// not.
   std::int32_t GetMinWidth() const;
   /// The width beside caption, value and unit.
   std::int32_t GetMinBruttoWidth() const;
 
+  /// Selects so many characters of the text box, from a position that counts from 0.
   void SetSelection(std::int32_t StartSel, std::int32_t SelLength);
+  /// Adds an entry to the context menu, whose index is the number of entries so far, from 1 on. Null when
+  /// that is taken, as it can be after entries were removed from the middle.
   std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption) {
     return menu_.add(MenuCaption);
   }
+  /// 0 is the template of all others, which is never shown. Null for an index where nothing is loaded.
   std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) { return menu_.entry(Index); }
+  /// Ignored for 0 and for an index where nothing is loaded.
   void RemoveMenuItem(std::int32_t Index) { menu_.remove(Index); }
+  /// Removes all entries; without any nothing pops up.
   void RemoveMenu() { menu_.removeAll(); }
 
+  /// What the editor shows has changed.
   Event<> Change;
-  Event<std::int16_t&> ItemCheck;
+  /// An entry of a bit field was ticked or unticked; entries count from 0.
+  Event<std::int16_t& /*Item*/> ItemCheck;
+  /// The row was clicked where no part is.
   Event<> BackgroundClick;
+  /// The caption was clicked.
   Event<> LabelClick;
+  /// The unit was clicked.
   Event<> UnitClick;
+  /// The first icon was clicked, in another mode than qrnbuttonNone.
   Event<> Icon1Click;
+  /// The second icon was clicked, in another mode than qrnbuttonNone.
   Event<> Icon2Click;
-  Event<std::int16_t&> MenuClick;
+  /// An entry of the context menu was chosen; the host's own count from 1.
+  Event<std::int16_t& /*Index*/> MenuClick;
+  /// A check box, drop list or bit list was clicked.
   Event<> Click;
+  /// The user has gone into the editor, which is not locked.
   Event<> StartEdit;
-  Event<bool&> EndEdit;
-  Event<std::int16_t&, std::int16_t&> KeyDown;
-  Event<std::int16_t&> KeyPress;
-  Event<std::int16_t&, std::int16_t&> KeyUp;
+  /// The user has left the editor, or the application; tells ValueChanged.
+  Event<bool& /*bChanged*/> EndEdit;
+  /// A key has gone down in the editor; setting its code to 0 takes it away.
+  Event<std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyDown;
+  /// A character was typed in the editor; setting it to 0 takes it away.
+  Event<std::int16_t& /*KeyAscii*/> KeyPress;
+  /// A key has come up in the editor.
+  Event<std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyUp;
+  /// The host has accepted a changed value, with ValueChanged.
   Event<> StatusChange;
 
   /// What a panel does while it moves the row: as Redraw, but in a designer too.

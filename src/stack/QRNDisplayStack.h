@@ -24,13 +24,15 @@ class QRNDisplayStack final : public host::UserControl {
   std::string_view typeName() const override { return "QRNDisplayStack"; }
   const host::ClassTable& classTable() const override;
 
-  /// By index or name. Errors: 5 for an unknown name, 9 for an index outside.
+  /// The panel of a page, by its index or name. Errors: 5 for an unknown name, 9 for an index outside.
   QRNDisplay& Pages(const Variant& aSelector) const;
+  /// The number of pages, which is the index of the one on top.
   std::int32_t Count() const { return pages_.count(); }
 
-  /// By how many pixels each page is further in than the one below.
+  /// By how many pixels each page is further to the right than the one below.
   std::int32_t LeftIndent() const { return leftIndent_; }
   void SetLeftIndent(std::int32_t indent) { storeIndent(leftIndent_, indent, "LeftIndent"); }
+  /// By how many pixels each page is further down than the one below.
   std::int32_t TopIndent() const { return topIndent_; }
   void SetTopIndent(std::int32_t indent) { storeIndent(topIndent_, indent, "TopIndent"); }
   /// Whether a page that is covered shows its frame and title only.
@@ -46,43 +48,55 @@ class QRNDisplayStack final : public host::UserControl {
 
   using Control::Enabled;
   void SetEnabled(bool enabled) override;
-  const host::FontPtr& Font() const { return font(); }
   /// Of the stack and of every page there is.
+  const host::FontPtr& Font() const { return font(); }
   void SetFont(host::FontPtr font);
+  /// Of the stack and of every page there is.
   host::Color BackColor() const { return backColor(); }
   void SetBackColor(host::Color color);
+  /// The host's own; the stack does nothing with it.
   const Variant& ExtraData() const { return extraData_; }
   void SetExtraData(const Variant& data) { extraData_ = data; }
 
   // The first argument is the page's index.
-  Event<std::int32_t&, std::int32_t&> ItemGotFocus;
-  Event<std::int32_t&, std::int32_t&> ItemLostFocus;
-  Event<std::int32_t&, std::int32_t&, std::int16_t&> ItemMenuClick;
-  Event<std::int32_t&, std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyDown;
-  Event<std::int32_t&, std::int32_t&, std::int16_t&> ItemKeyPress;
-  Event<std::int32_t&, std::int32_t&, std::int16_t&, std::int16_t&> ItemKeyUp;
-  Event<std::int32_t&, std::int32_t&> ActionLayout;
-  Event<std::int32_t&, std::int32_t&> ActionClick;
-  Event<std::int32_t&, std::int32_t&> ParameterLayout;
-  Event<std::int32_t&, std::int32_t&> ParameterChange;
-  Event<std::int32_t&, std::int32_t&, std::int16_t&> ParameterItemCheck;
-  Event<std::int32_t&, std::int32_t&> ParameterIcon1Click;
-  Event<std::int32_t&, std::int32_t&> ParameterIcon2Click;
-  Event<std::int32_t&, std::int32_t&> ParameterClick;
-  Event<std::int32_t&, std::int32_t&> ParameterStartEdit;
-  Event<std::int32_t&, std::int32_t&, bool&> ParameterEndEdit;
-  Event<std::int32_t&, std::int32_t&> ParameterStatusChange;
-  Event<std::int32_t&, std::int32_t&> ButtonLayout;
-  Event<std::int32_t&, std::int32_t&> ButtonClick;
-  /// What a listener makes of a key here is what the page goes on with.
-  Event<std::int32_t&, std::int16_t&, std::int16_t&> KeyDown;
-  Event<std::int32_t&, std::int16_t&> KeyPress;
-  Event<std::int32_t&, std::int16_t&, std::int16_t&> KeyUp;
-  Event<std::int32_t> PageLayout;
-  Event<std::int32_t> PageActivate;
-  Event<std::int32_t> PageDeactivate;
-  /// The second argument is a cancel that the listener sets.
-  Event<std::int32_t, bool&> PageClose;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ItemGotFocus;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ItemLostFocus;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*MenuItemIndex*/>
+      ItemMenuClick;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyCode*/,
+        std::int16_t& /*Shift*/>
+      ItemKeyDown;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyAscii*/> ItemKeyPress;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyCode*/,
+        std::int16_t& /*Shift*/>
+      ItemKeyUp;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ActionLayout;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ActionClick;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterLayout;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterChange;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*Item*/> ParameterItemCheck;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterIcon1Click;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterIcon2Click;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterClick;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterStartEdit;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, bool& /*bChanged*/> ParameterEndEdit;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ParameterStatusChange;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ButtonIndex*/> ButtonLayout;
+  Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ButtonIndex*/> ButtonClick;
+  /// A key has gone down on the page itself. What a listener makes of it is what the page goes on with.
+  Event<std::int32_t& /*PageIndex*/, std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyDown;
+  /// A character was typed on the page itself. What a listener makes of it is what the page goes on with.
+  Event<std::int32_t& /*PageIndex*/, std::int16_t& /*KeyAscii*/> KeyPress;
+  /// A key has come up on the page itself.
+  Event<std::int32_t& /*PageIndex*/, std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyUp;
+  /// A page was put on top and is still empty: the time to add its items.
+  Event<std::int32_t /*PageIndex*/> PageLayout;
+  /// The page is on top now, after it was added or those above it were closed.
+  Event<std::int32_t /*PageIndex*/> PageActivate;
+  /// The page was covered by a new one.
+  Event<std::int32_t /*PageIndex*/> PageDeactivate;
+  /// The page is about to be closed; setting bCancel to True keeps it.
+  Event<std::int32_t /*PageIndex*/, bool& /*bCancel*/> PageClose;
 
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
   void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;

@@ -10,7 +10,9 @@ class QRNArray final : public host::UserControl {
   std::string_view typeName() const override { return "QRNArray"; }
   const host::ClassTable& classTable() const override;
 
+  /// Null.
   ObjectPtr FlexGrid() const { return nullptr; }
+  /// Null.
   ObjectPtr TextBox() const { return nullptr; }
 };
 

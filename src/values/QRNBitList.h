@@ -11,6 +11,7 @@ class QRNBitList final : public CompositeEditor {
   std::string_view typeName() const override { return "QRNBitList"; }
   const host::ClassTable& classTable() const override;
 
+  /// The list of check marks itself.
   host::ListBox& List() { return lstBits_; }
   host::ListBox& inner() override { return lstBits_; }
 

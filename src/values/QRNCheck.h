@@ -13,6 +13,7 @@ class QRNCheck final : public CompositeEditor {
   std::string_view typeName() const override { return "QRNCheck"; }
   const host::ClassTable& classTable() const override;
 
+  /// The check box itself.
   host::CheckBox& Check() { return chkValue_; }
   host::CheckBox& inner() override { return chkValue_; }
 

@@ -11,6 +11,7 @@ class QRNDropList final : public CompositeEditor {
   std::string_view typeName() const override { return "QRNDropList"; }
   const host::ClassTable& classTable() const override;
 
+  /// The drop-down list itself.
   host::ComboBox& Combo() { return cboValue_; }
   host::ComboBox& inner() override { return cboValue_; }
 

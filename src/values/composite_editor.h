@@ -9,6 +9,7 @@ namespace qrn {
 /// to the row, which talks to the inner control directly.
 class CompositeEditor : public host::UserControl {
  public:
+  /// The unit of its own lengths, as numbered for a row, which sets it to its own.
   std::int16_t ScaleMode() const { return scaleMode(); }
   void SetScaleMode(std::int16_t mode);
   /// For the inner control, and for measuring its texts.
