@@ -125,10 +125,8 @@ class Page:
         return self.find("Set" + name[0].upper() + name[1:])
 
     def beside(self, entry):
-        """Properties that are not in the class table: those of C++ only, and those of a common base."""
-        classes = self.library.lines_up(self.name)
-        own = classes[: [one.name for one in classes].index("UserControl")]
-        members = [one for each in own for one in each.members]
+        """Properties of C++ only, which are not in the class table."""
+        members = self.library.header(self.name).members
         return [one for one in members if self.setter_of(one.name) and one.name not in entry.names()]
 
     def arguments(self, member):

@@ -1,6 +1,6 @@
 #include "values/QRNDropList.h"
 
-#include "host/class_table.h"
+#include "host/class_table_entries.h"
 
 namespace qrn {
 
@@ -11,13 +11,16 @@ void QRNDropList::resize() {
 }
 
 const host::ClassTable& QRNDropList::classTable() const {
-  static const host::ClassTable table{.name = "QRNDropList",
-                                      .progId = "QRNV16Controls2.QRNDropList",
-                                      .properties = {},
-                                      .readingOrder = {},
-                                      .writingOrder = {},
-                                      .methods = {"Combo"},
-                                      .events = {}};
+  static const host::ClassTable table{
+      .name = "QRNDropList",
+      .progId = "QRNV16Controls2.QRNDropList",
+      .properties = {host::property<&QRNDropList::ScaleMode, &QRNDropList::SetScaleMode>("ScaleMode", 1)
+                         .startsAs(3)
+                         .notifies(host::Notify::Never)},
+      .readingOrder = {},
+      .writingOrder = {},
+      .methods = {"Combo"},
+      .events = {}};
   return table;
 }
 

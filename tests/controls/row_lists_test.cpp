@@ -1,3 +1,4 @@
+#include "host/class_table.h"
 #include "row_fixture.h"
 
 namespace qrn::test {
@@ -143,6 +144,22 @@ TEST_F(TheEditor, FillsItsControlInTheScaleOfThat) {
   control->SetScaleMode(1);
   EXPECT_EQ(control->Check().bounds(), (Rect{0, 0, 1200, 450}));
   EXPECT_EQ(control->Check().pixelSize(), (Size{80, 30}));
+}
+
+template <class T>
+class EditorsByName : public RowTest {};
+using Editors = ::testing::Types<QRNCheck, QRNDropList, QRNBitList>;
+TYPED_TEST_SUITE(EditorsByName, Editors);
+
+TYPED_TEST(EditorsByName, TakeTheirScaleAndKeepItInNoBag) {
+  const auto control = alone<TypeParam>(this->site);
+  const host::Property* scale = control->classTable().find("ScaleMode");
+  ASSERT_NE(scale, nullptr);
+  scale->write(*control, Variant(1));
+  EXPECT_EQ(control->ScaleMode(), 1);
+  host::PropertyBag bag;
+  control->writeProperties(bag);
+  EXPECT_EQ(bag.find("ScaleMode"), nullptr);
 }
 
 TEST_F(TheEditor, OfABitFieldMakesItsFirstEntryCurrentWithTheFocus) {
