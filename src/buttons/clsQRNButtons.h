@@ -12,7 +12,7 @@
 namespace qrn {
 
 /// The buttons in the footer of a panel, in their order. A selector is a button object, a key, whose case
-/// does not count, or a 1-based position.
+/// does not count, or a 1-based position. A range-based for goes over all of them.
 class clsQRNButtons final : public Object {
  public:
   /// Bound to its panel, with the timer that lets its buttons click themselves.

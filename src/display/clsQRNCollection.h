@@ -15,7 +15,7 @@
 namespace qrn {
 
 /// The items of a panel, in the order in which they are laid out. A selector is an item object, a key, whose
-/// case does not count, or a 1-based position.
+/// case does not count, or a 1-based position. A range-based for goes over all of them.
 class clsQRNCollection final : public Object {
  public:
   std::string_view typeName() const override { return "clsQRNCollection"; }

@@ -17,20 +17,22 @@ class clsQRNArray final : public Object {
   qrnValueType ArrayType() const { return arrayType_; }
   void SetArrayType(qrnValueType type) { arrayType_ = type; }
 
+  /// The number of elements.
   std::int32_t Size() const { return size_; }
-  /// Above 0, the elements so far are gone and all are Empty; otherwise only the number is kept.
+  /// Setting it above 0, the elements so far are gone and all are Empty; otherwise only the number is kept.
   void SetSize(std::int32_t size);
 
-  /// Null outside the array.
+  /// An element; Null outside the array.
   Variant Value(std::int32_t Index) const;
-  /// Ignored outside the array.
+  /// Setting one outside is ignored.
   void SetValue(std::int32_t Index, const Variant& value);
 
+  /// Which element is current: −1 for none, and not checked.
   std::int32_t CurrentArrayValueIndex() const { return current_; }
   void SetCurrentArrayValueIndex(std::int32_t index) { current_ = index; }
   /// The first element when the current index lies outside. Errors: 9 while there are no elements at all.
   const Variant& CurrentArrayValue() const;
-  /// Ignored when the current index lies outside.
+  /// Setting it is ignored where the index lies outside.
   void SetCurrentArrayValue(const Variant& value) { SetValue(current_, value); }
 
  private:
