@@ -1,55 +1,101 @@
 #include "event_printer.h"
 
 #include <ostream>
+#include <sstream>
 
 #include "base/text.h"
+#include "tooltip/QRNToolTip.h"
 
 namespace qrn::eddpanel {
 namespace {
 
-bool isFlag(std::string_view event, std::size_t argument) {
-  return event == "ParameterEndEdit" && argument == 1;
-}
-
-// The panel's own events carry no item.
-bool hasItem(std::string_view event) {
+bool concernsItem(std::string_view event) {
   return event.starts_with("Item") || event.starts_with("Parameter") || event.starts_with("Action");
 }
 
 }  // namespace
 
-void EventPrinter::watch(MenuPanel& panel) {
-  connections_.push_back(
-      panel.display().ObjectEvent.connect([this, &panel](std::string_view name, host::EventArgs arguments) {
-        // Focus events of the panel among other windows say nothing about its items.
-        if (name != "GotFocus" && name != "LostFocus") print(panel, name, arguments);
-      }));
-  connections_.push_back(
-      panel.Message.connect([this](const std::string& text) { out_ << "message: " << text << '\n'; }));
-  connections_.push_back(panel.Help.connect(
-      [this](std::int32_t, const std::string& text) { out_ << "help: " << text << '\n'; }));
+struct EventPrinter::Argument {
+  Argument(bool flag) : text(flag ? "True" : "False") {}
+  Argument(std::int16_t code) : text(std::to_string(code)), number(code) {}
+  Argument(std::int32_t index) : text(std::to_string(index)), number(index) {}
+
+  std::string text;
+  std::int32_t number = 0;
+};
+
+EventPrinter::EventPrinter(QRNDisplayStack& stack, std::ostream& out) : stack_(stack), out_(out) {
+  listenToItems();
+  listenToPages();
 }
 
-void EventPrinter::print(MenuPanel& panel, std::string_view name, host::EventArgs arguments) {
-  out_ << panel.menu().label << ": " << name;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    out_ << (i == 0 ? "(" : ", ");
-    if (isFlag(name, i))
-      out_ << (arguments[i].as<bool>() ? "True" : "False");
-    else
-      out_ << arguments[i].asLong();
-  }
-  if (!arguments.empty()) out_ << ')';
-  if (hasItem(name) && !arguments.empty()) {
-    const std::int32_t item = arguments[0].asLong();
-    out_ << ' ' << panel.entry(item).name;
-    if (QRNEdit* row = panel.row(item); row && !row->Password()) out_ << " = \"" << row->ValueText() << '"';
-  }
-  if (name.starts_with("Button") && !arguments.empty()) {
-    const auto button = panel.display().Buttons().Item(Variant(arguments[0].asLong()));
-    out_ << ' ' << text::replaced(button->Control().Caption(), "&", "");
-  }
+template <class... Args>
+void EventPrinter::print(std::string_view name, Event<Args...>& event) {
+  connections_.push_back(
+      event.connect([this, name](Args... arguments) { line(name, {Argument(arguments)...}); }));
+}
+
+void EventPrinter::listenToItems() {
+  print("ItemGotFocus", stack_.ItemGotFocus);
+  print("ItemLostFocus", stack_.ItemLostFocus);
+  print("ItemMenuClick", stack_.ItemMenuClick);
+  print("ItemKeyDown", stack_.ItemKeyDown);
+  print("ItemKeyPress", stack_.ItemKeyPress);
+  print("ItemKeyUp", stack_.ItemKeyUp);
+  print("ActionLayout", stack_.ActionLayout);
+  print("ActionClick", stack_.ActionClick);
+  print("ParameterLayout", stack_.ParameterLayout);
+  print("ParameterChange", stack_.ParameterChange);
+  print("ParameterItemCheck", stack_.ParameterItemCheck);
+  print("ParameterIcon1Click", stack_.ParameterIcon1Click);
+  print("ParameterIcon2Click", stack_.ParameterIcon2Click);
+  print("ParameterClick", stack_.ParameterClick);
+  print("ParameterStartEdit", stack_.ParameterStartEdit);
+  print("ParameterEndEdit", stack_.ParameterEndEdit);
+  print("ParameterStatusChange", stack_.ParameterStatusChange);
+}
+
+void EventPrinter::listenToPages() {
+  print("ButtonLayout", stack_.ButtonLayout);
+  print("ButtonClick", stack_.ButtonClick);
+  print("KeyDown", stack_.KeyDown);
+  print("KeyPress", stack_.KeyPress);
+  print("KeyUp", stack_.KeyUp);
+  print("PageLayout", stack_.PageLayout);
+  print("PageActivate", stack_.PageActivate);
+  print("PageDeactivate", stack_.PageDeactivate);
+  print("PageClose", stack_.PageClose);
+}
+
+void EventPrinter::watch(DevicePages& pages) {
+  connections_.push_back(
+      pages.Message.connect([this](const std::string& text) { out_ << "message: " << text << std::endl; }));
+  connections_.push_back(pages.HelpShown.connect([this](QRNToolTip& tip) {
+    std::istringstream lines(text::replaced(tip.Text(), "\r", ""));
+    for (std::string help; std::getline(lines, help);) out_ << "help: " << help << std::endl;
+  }));
+}
+
+// The first argument is the page's index, the second one the position of an item or a button.
+void EventPrinter::line(std::string_view name, const std::vector<Argument>& arguments) {
+  QRNDisplay& page = stack_.Pages(Variant(arguments[0].number));
+  out_ << page.Title() << ": " << name << '(';
+  for (std::size_t i = 0; i < arguments.size(); ++i) out_ << (i == 0 ? "" : ", ") << arguments[i].text;
+  out_ << ')';
+  if (arguments.size() > 1) out_ << concerned(name, page, arguments[1].number);
   out_ << std::endl;
+}
+
+std::string EventPrinter::concerned(std::string_view name, QRNDisplay& page, std::int32_t position) {
+  if (name.starts_with("Button"))
+    return ' ' + text::replaced(page.Buttons().Item(Variant(position))->Control().Caption(), "&", "");
+  if (!concernsItem(name)) return {};
+  const PanelItemPtr item = page.Items().Item(Variant(position));
+  if (const auto* action = dynamic_cast<clsQRNAction*>(item.get()))
+    return ' ' + std::string(action->Control().Name());
+  QRNEdit& row = static_cast<clsQRNParam&>(*item).Control();
+  const bool hasValue = !row.Password() && !name.ends_with("Layout");
+  return ' ' + std::string(row.Name()) + (hasValue ? " = \"" + row.ValueText() + '"' : "");
 }
 
 }  // namespace qrn::eddpanel

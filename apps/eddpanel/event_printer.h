@@ -1,24 +1,35 @@
 #pragma once
 
 #include <iosfwd>
+#include <string>
 #include <vector>
 
 #include "base/event.h"
-#include "device_panels.h"
+#include "device_pages.h"
 
 namespace qrn::eddpanel {
 
-/// Prints every event of the panels with the names of the items concerned, for instance
-/// `Basic setup: ParameterEndEdit(7, True) damping = "2.5"`.
+/// Prints every event of a stack with the page's index in front and the name of the item concerned, for
+/// instance `Basic setup: ParameterEndEdit(2, 7, True) damping = "2.5"`. Made before the listeners that act
+/// on the events, it prints them in the order in which they happen.
 class EventPrinter {
  public:
-  explicit EventPrinter(std::ostream& out) : out_(out) {}
+  EventPrinter(QRNDisplayStack& stack, std::ostream& out);
 
-  void watch(MenuPanel& panel);
+  /// What the pages say and show as well.
+  void watch(DevicePages& pages);
 
  private:
-  void print(MenuPanel& panel, std::string_view name, host::EventArgs arguments);
+  struct Argument;
 
+  void listenToItems();
+  void listenToPages();
+  template <class... Args>
+  void print(std::string_view name, Event<Args...>& event);
+  void line(std::string_view name, const std::vector<Argument>& arguments);
+  std::string concerned(std::string_view name, QRNDisplay& page, std::int32_t position);
+
+  QRNDisplayStack& stack_;
   std::ostream& out_;
   std::vector<Connection> connections_;
 };

@@ -2,11 +2,11 @@
 #include <iostream>
 #include <optional>
 
-#include "device_panels.h"
-#include "library/library.h"
+#include "device_pages.h"
 #include "edd/reader.h"
 #include "event_printer.h"
-#include "panel_text.h"
+#include "library/library.h"
+#include "page_text.h"
 #include "platform/headless/headless_platform.h"
 #include "replay.h"
 #include "runtime/errors.h"
@@ -25,18 +25,25 @@ struct Options {
   eddpanel::ScreenOptions screen;
 };
 
-// Without a display: the panels as text, or a script of user actions with the events that it raises.
+// Without a display: the pages as text, or a script of user actions with the events that it raises.
 int runHeadless(const edd::Description& description, const Options& options) {
   headless::HeadlessPlatform platform;
   headless::HeadlessSite site(platform);
-  eddpanel::DevicePanels panels(description, site);
-  eddpanel::EventPrinter printer(std::cout);
-  if (!options.replay.empty()) {
-    panels.onOpened([&](eddpanel::MenuPanel& panel) { printer.watch(panel); });
-    eddpanel::Replay(platform, panels, std::cout).play(options.replay);
+  const auto stack = host::create<QRNDisplayStack>(site);
+  std::optional<eddpanel::EventPrinter> printer;
+  if (!options.replay.empty()) printer.emplace(*stack, std::cout);
+  eddpanel::ScriptedAnswers answers(std::cout);
+  eddpanel::DevicePages pages(description, *stack, answers);
+  if (printer) {
+    printer->watch(pages);
+    eddpanel::Replay(platform, pages, answers, std::cout).play(options.replay);
     return 0;
   }
-  for (const edd::Menu* menu : panels.menus()) eddpanel::printPanel(std::cout, panels.open(*menu));
+  for (const edd::Menu* menu : pages.menus()) {
+    pages.closeAll();
+    pages.open(*menu);
+    eddpanel::printPage(std::cout, *pages.top());
+  }
   return 0;
 }
 
@@ -59,16 +66,16 @@ int run(const Options& options, int argc, char** argv) {
 
 int main(int argc, char** argv) {
   Options options;
-  CLI::App app("Shows the panels of a device description (EDD text, IEC 61804-3).");
+  CLI::App app("Shows the menus of a device description (EDD text, IEC 61804-3).");
   app.add_option("FILE", options.file, "the device description")->required();
   app.add_option("--language", options.language,
                  "language of labels and help texts, en or de; numbers and dates follow it");
-  app.add_flag("--list", options.list, "print the panels as text");
+  app.add_flag("--list", options.list, "print the pages as text");
   app.add_option("--replay", options.replay,
                  "play a script of user actions without a display and print the events");
-  app.add_option("--pictures", options.screen.pictures, "write a PNG of each panel into this folder");
+  app.add_option("--pictures", options.screen.pictures, "write a PNG of each page into this folder");
   app.add_flag("--dark", options.screen.dark, "use a dark palette");
-  app.add_flag("--events", options.screen.printEvents, "print the events of the window's panels");
+  app.add_flag("--events", options.screen.printEvents, "print the events of the window's pages");
   CLI11_PARSE(app, argc, argv);
   try {
     return run(options, argc, argv);

@@ -6,13 +6,17 @@
 #include <sstream>
 
 #include "base/text.h"
-#include "platform/headless/user.h"
 #include "runtime/errors.h"
 
 namespace qrn::eddpanel {
 namespace {
 
 constexpr long long kTickInterval = 100;  // milliseconds between two values of the device
+constexpr double kWidth = 800;            // of the stack, in pixels
+constexpr double kHeight = 600;
+
+constexpr std::pair<std::string_view, ForChanges> kAnswers[] = {
+    {"apply", ForChanges::Apply}, {"discard", ForChanges::Discard}, {"cancel", ForChanges::KeepOpen}};
 
 struct NamedKey {
   std::string_view name;
@@ -59,8 +63,21 @@ Number numberOf(const std::string& text) {
 
 }  // namespace
 
-Replay::Replay(headless::HeadlessPlatform& platform, DevicePanels& panels, std::ostream& out)
-    : platform_(platform), panels_(panels), out_(out) {}
+ForChanges ScriptedAnswers::ask(const std::string& page, const Edits& edits) {
+  const ForChanges given = std::exchange(next_, ForChanges::KeepOpen);
+  out_ << "question: " << questionText(page, edits) << '\n';
+  for (const auto& [name, answer] : kAnswers) {
+    if (answer == given) out_ << "answer: " << name << std::endl;
+  }
+  return given;
+}
+
+Replay::Replay(headless::HeadlessPlatform& platform, DevicePages& pages, ScriptedAnswers& answers,
+               std::ostream& out)
+    : platform_(platform), pages_(pages), answers_(answers), out_(out) {
+  pages_.stack().Move(0, 0, kWidth, kHeight);
+  pages_.stack().realise();
+}
 
 void Replay::play(const std::filesystem::path& script) {
   std::error_code ignored;
@@ -85,30 +102,47 @@ void Replay::playText(std::string_view text, const std::string& name) {
   }
 }
 
-MenuPanel& Replay::panel() {
-  if (!panel_) open(panels_.menus().empty() ? std::string() : panels_.menus().front()->name);
-  return *panel_;
+MenuPage& Replay::top() {
+  if (!pages_.top()) open(pages_.menus().empty() ? std::string() : pages_.menus().front()->name);
+  return *pages_.top();
 }
 
+headless::User Replay::user() { return {platform_, pages_.stack()}; }
+
 void Replay::open(const std::string& name) {
-  const edd::Menu* menu = panels_.find(name);
-  if (!menu) refuse("there is no panel \"" + name + '"');
-  if (panel_) panel_->display().input().setFocus(nullptr);
-  panel_ = &panels_.open(*menu);
-  panel_->display().Move(0, 0, 640, 480);
-  panel_->display().realise();
+  const edd::Menu* menu = pages_.find(name);
+  if (!menu) refuse("there is no page \"" + name + '"');
   out_ << "-- " << menu->label << '\n';
+  pages_.open(*menu);
+}
+
+void Replay::goBack(const std::string& page) {
+  const auto index = numberOf<std::int32_t>(page);
+  if (index < 1 || index >= pages_.stack().Count()) refuse("no page " + page + " is covered");
+  user().clicks(pages_.page(index).panel().lblTitle());
+}
+
+void Replay::clickTitleIcon(host::Control& icon) {
+  if (!icon.shown()) refuse("the page on top has no such icon");
+  user().clicks(icon);
+}
+
+void Replay::answer(const std::string& answer) {
+  for (const auto& [name, meant] : kAnswers) {
+    if (name == answer) return answers_.willAnswer(meant);
+  }
+  refuse("unknown answer \"" + answer + '"');
 }
 
 host::Control& Replay::item(const std::string& name) {
-  const std::int32_t position = panel().itemOf(name);
+  const std::int32_t position = top().itemOf(name);
   if (host::Control* button = position == 0 ? footerButton(name) : nullptr) return *button;
-  if (position == 0) refuse("panel \"" + panel().menu().label + "\" has no item \"" + name + '"');
-  return panel().control(position);
+  if (position == 0) refuse("page \"" + top().menu().label + "\" has no item \"" + name + '"');
+  return top().control(position);
 }
 
 host::Control* Replay::footerButton(const std::string& caption) {
-  for (const ButtonPtr& button : panel().display().Buttons()) {
+  for (const ButtonPtr& button : top().panel().Buttons()) {
     if (text::replaced(button->Control().Caption(), "&", "") == caption) return &button->Control();
   }
   return nullptr;
@@ -137,15 +171,17 @@ host::Control& Replay::part(const Words& words) {
 
 void Replay::act(const Words& words) {
   const std::string& verb = words.front();
-  const bool alone = verb == "panel" || verb == "focus" || verb == "type" || verb == "enter" ||
-                     verb == "key" || verb == "menu" || verb == "wheel" || verb == "wait";
+  const bool alone = verb == "page" || verb == "back" || verb == "answer" || verb == "focus" ||
+                     verb == "type" || verb == "enter" || verb == "key" || verb == "menu" ||
+                     verb == "wheel" || verb == "wait";
   if (alone && words.size() != 2) refuse("\"" + verb + "\" takes one word, or a text in quotation marks");
-  if (verb == "panel") return open(words[1]);
+  if (actOnPages(words)) return;
   if (verb == "wait") return wait(words[1]);
   if (verb == "menu") return platform_.willChoose(numberOf<int>(words[1]));
   if (verb == "click" || verb == "doubleclick" || verb == "rightclick") return click(words);
   if (verb == "choose" || verb == "tick") return choose(words);
-  headless::User user(platform_, panel().display());
+  if (verb == "leave") return leave();
+  headless::User user = this->user();
   if (verb == "focus")
     user.focuses(item(words[1]));
   else if (verb == "type")
@@ -155,9 +191,33 @@ void Replay::act(const Words& words) {
   else if (verb == "key")
     press(words[1]);
   else if (verb == "wheel")
-    user.turnsWheel(headless::User::middleOf(panel().display()), numberOf<double>(words[1]));
+    user.turnsWheel(headless::User::middleOf(top().panel()), numberOf<double>(words[1]));
   else
     refuse("unknown action \"" + verb + '"');
+}
+
+// Answers whether that was all there is to do.
+bool Replay::actOnPages(const Words& words) {
+  const std::string& verb = words.front();
+  if (verb == "page")
+    open(words[1]);
+  else if (verb == "back")
+    goBack(words[1]);
+  else if (verb == "answer")
+    answer(words[1]);
+  else if (verb == "close")
+    clickTitleIcon(top().panel().imgClose());
+  else if (verb == "maximize")
+    clickTitleIcon(top().panel().imgMaxRst());
+  else
+    return false;
+  return true;
+}
+
+// The user comes back at once, to no part of the window in particular.
+void Replay::leave() {
+  user().switchesAway();
+  user().comesBack();
 }
 
 void Replay::click(const Words& words) {
@@ -166,7 +226,7 @@ void Replay::click(const Words& words) {
   host::Control& target = part(words);
   if (!target.shown() || target.visibleOnSurface().empty())
     refuse("\"" + words[1] + "\" can't be seen there");
-  headless::User user(platform_, panel().display());
+  headless::User user = this->user();
   if (words[0] == "doubleclick")
     user.doubleClicks(target);
   else
@@ -175,7 +235,7 @@ void Replay::click(const Words& words) {
 
 void Replay::choose(const Words& words) {
   if (words.size() != 3) refuse("\"" + words[0] + "\" takes an item and an entry");
-  headless::User user(platform_, panel().display());
+  headless::User user = this->user();
   auto* list = dynamic_cast<host::ListEditor*>(row(words[1]).CurrentEditor());
   if (!list) refuse("\"" + words[1] + "\" has no list");
   if (words[0] == "tick") return user.ticks(*list, numberOf<std::int16_t>(words[2]));
@@ -195,7 +255,7 @@ void Replay::press(const std::string& key) {
     name.remove_prefix(prefix.size());
     shift = static_cast<std::int16_t>(shift | bit);
   }
-  headless::User user(platform_, panel().display());
+  headless::User user = this->user();
   for (const NamedKey& known : kKeys) {
     if (known.name == name) return user.presses(known.code, shift);
   }
@@ -209,7 +269,7 @@ void Replay::wait(const std::string& milliseconds) {
   for (auto left = numberOf<long long>(milliseconds); left > 0; --left) {
     platform_.clock().advance(std::chrono::milliseconds(1));
     platform_.processMessages();
-    if (++sinceTick_ % kTickInterval == 0) panels_.tick();
+    if (++sinceTick_ % kTickInterval == 0) pages_.tick();
   }
 }
 

@@ -12,7 +12,7 @@ struct ScreenOptions {
   bool printEvents = false;
 };
 
-/// Shows the panels in a window until it is closed, or writes their pictures. Answers the exit code.
+/// Shows the pages in a window until it is closed, or writes their pictures. Answers the exit code.
 int runOnScreen(const edd::Description& description, const ScreenOptions& options, int argc, char** argv);
 
 }  // namespace qrn::eddpanel

@@ -5,11 +5,13 @@
 #include <QPalette>
 #include <QStyleFactory>
 #include <iostream>
+#include <optional>
 
 #include "event_printer.h"
 #include "platform/qt/qt_site.h"
-#include "qt/panel_window.h"
 #include "qt/pictures.h"
+#include "qt/question_box.h"
+#include "qt/stack_window.h"
 
 namespace qrn::eddpanel {
 namespace {
@@ -48,14 +50,16 @@ int runOnScreen(const edd::Description& description, const ScreenOptions& option
   }
   qt::QtPlatform platform;
   qt::QtSite site(platform);
-  DevicePanels panels(description, site);
-  EventPrinter printer(std::cout);
+  const auto stack = host::create<QRNDisplayStack>(site);
+  std::optional<EventPrinter> printer;
+  if (options.printEvents) printer.emplace(*stack, std::cout);
+  QuestionBox question;
+  DevicePages pages(description, *stack, question);
+  if (printer) printer->watch(pages);
   if (!options.pictures.empty()) {
-    return writePictures(platform, panels, options.pictures, std::cout, std::cerr) ? 0 : 1;
+    return writePictures(platform, pages, options.pictures, std::cout, std::cerr) ? 0 : 1;
   }
-  if (options.printEvents) panels.onOpened([&](MenuPanel& panel) { printer.watch(panel); });
-  const edd::Menu& first = *panels.menus().front();
-  PanelWindow window(platform, panels, QString::fromStdString(first.label));
+  StackWindow window(platform, pages);
   window.show();
   return QApplication::exec();
 }

@@ -1,4 +1,4 @@
-#include "panel_text.h"
+#include "page_text.h"
 
 #include <algorithm>
 #include <ostream>
@@ -46,26 +46,26 @@ std::string notesOf(const clsQRNParam& parameter) {
 
 }  // namespace
 
-void printPanel(std::ostream& out, MenuPanel& panel) {
-  out << "== " << panel.menu().label << " ==\n";
+void printPage(std::ostream& out, MenuPage& page) {
+  out << "== " << page.menu().label << " ==\n";
   std::size_t labels = 0;
-  clsQRNCollection& items = panel.display().Items();
+  clsQRNCollection& items = page.panel().Items();
   for (std::int32_t i = 1; i <= items.Count(); ++i) {
-    if (QRNEdit* row = panel.row(i)) labels = std::max(labels, text::length(row->LabelText()));
+    if (QRNEdit* row = page.row(i)) labels = std::max(labels, text::length(row->LabelText()));
   }
   for (std::int32_t i = 1; i <= items.Count(); ++i) {
-    if (QRNEdit* row = panel.row(i)) {
+    if (QRNEdit* row = page.row(i)) {
       out << "  " << padded(row->LabelText(), labels) << "  " << valueOf(*row);
       if (!row->UnitText().empty()) out << ' ' << row->UnitText();
       out << notesOf(static_cast<clsQRNParam&>(*items.Item(Variant(i)))) << '\n';
     } else {
       auto& button = static_cast<clsQRNAction&>(*items.Item(Variant(i))).Control();
-      const bool isMenu = panel.entry(i).kind == edd::ItemKind::Menu;
+      const bool isMenu = page.entry(i).kind == edd::ItemKind::Menu;
       out << (isMenu ? "  > " : "  ! ") << button.Caption() << '\n';
     }
   }
   out << ' ';
-  for (const ButtonPtr& button : panel.display().Buttons())
+  for (const ButtonPtr& button : page.panel().Buttons())
     out << " (" << text::replaced(button->Control().Caption(), "&", "") << ')';
   out << '\n';
 }
