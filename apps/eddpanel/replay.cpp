@@ -113,6 +113,7 @@ void Replay::open(const std::string& name) {
   const edd::Menu* menu = pages_.find(name);
   if (!menu) refuse("there is no page \"" + name + '"');
   out_ << "-- " << menu->label << '\n';
+  if (!pages_.top()) pages_.open(*pages_.menus().front());
   pages_.open(*menu);
 }
 

@@ -33,7 +33,8 @@ class ScriptedAnswers final : public ChangesQuestion {
 /// Plays user actions on the page on top, without a display. A script has one action a line; `#` starts a
 /// comment, and texts with blanks stand in quotation marks:
 ///
-///     page "Basic setup"         puts a menu's page on top by its label or name, or goes back to it
+///     page "Basic setup"         puts a menu's page on top by its label or name, or goes back to it; the
+///                                first page is always the first menu
 ///     back 1                     clicks on the title of a page that is covered
 ///     close                      clicks on the close icon; maximize is the other one
 ///     answer apply | discard | cancel     the next question about values that are not written

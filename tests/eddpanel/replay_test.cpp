@@ -81,6 +81,11 @@ TEST_F(SampleDevice, AScriptErrorNamesItsLineAndWhatIsWrong) {
   EXPECT_EQ(error("tick damping 1"), "s:3: \"damping\" has no list");
 }
 
+TEST_F(SampleDevice, AScriptStartsOnThePageOfTheFirstMenu) {
+  playOn("page Trim");
+  EXPECT_EQ(titles(), "Main > Trim");
+}
+
 TEST_F(SampleDevice, AMissingScriptIsAnError) {
   EXPECT_EQ(errorOf([this] { replay.play("no/such/script"); }), "no/such/script:1: can't be read");
 }
