@@ -60,10 +60,9 @@ std::intptr_t CommandButton::windowMessage(const Message& message) {
 }
 
 CommandButton* buttonOfMnemonic(const ContainerControl& container, std::int16_t letter) {
-  for (Control* control : container.contained()) {
-    if (!control->Visible()) continue;
-    if (auto* button = dynamic_cast<CommandButton*>(control);
-        button && button->Enabled() && button->mnemonic() == letter)
+  for (Control* control : container.mnemonicArea().contained()) {
+    if (!control->Visible() || !control->Enabled()) continue;
+    if (auto* button = dynamic_cast<CommandButton*>(control); button && button->mnemonic() == letter)
       return button;
     if (const auto* inner = dynamic_cast<const ContainerControl*>(control)) {
       if (CommandButton* found = buttonOfMnemonic(*inner, letter)) return found;

@@ -48,7 +48,7 @@ UserControl* asUserControl(Control* control) { return dynamic_cast<UserControl*>
 // Alt and the letter of a button's caption press it from wherever the focus is; it comes to the button first.
 bool pressedByMnemonic(const UserControl& root, std::int16_t letter) {
   const WeakRef<CommandButton> button(buttonOfMnemonic(root, letter));
-  if (!button) return false;
+  if (!button || !button->enabledUpToSurface()) return false;
   button->SetFocus();
   if (button && button->hasFocus()) button->userClicked();
   return true;

@@ -119,12 +119,17 @@ void QRNDisplayStack::mouseUp(host::MouseButton button, std::int16_t, Point at) 
   if (contains(at) && hasDialog()) platform().beep();
 }
 
-// The keyboard walks the page on top only.
+// The keyboard is for the page on top only.
 host::Control* QRNDisplayStack::nextTabStop(host::Control* from, bool forward) {
   if (Count() == 0) return nullptr;
   QRNDisplay& top = *page(Count())->Control();
   const bool inside = from && from != this && top.hasFocus();
   return top.Enabled() ? top.nextTabStop(inside ? from : nullptr, forward) : nullptr;
+}
+
+const host::ContainerControl& QRNDisplayStack::mnemonicArea() const {
+  if (Count() == 0) return *this;
+  return *page(Count())->Control();
 }
 
 }  // namespace qrn

@@ -185,6 +185,19 @@ TEST_F(Mnemonics, AreFoundAtAnyDepthAndNotWhereTheyCanNotBeSeen) {
   EXPECT_EQ(heardInner, 1);
 }
 
+TEST_F(Mnemonics, AreNotFoundInWhatIsDisabled) {
+  auto& box = surface().add<host::PictureBox>("box", {0, 60, 100, 50});
+  auto& inner = surface().add<host::CommandButton>("inner", {0, 0, 50, 20}, box);
+  inner.SetCaption("&Inner");
+  auto& behind = surface().add<host::CommandButton>("behind", {0, 30, 100, 20});
+  behind.SetCaption("&Into");
+  box.SetEnabled(false);
+  int clicks = 0;
+  const auto connection = behind.Click.connect([&] { ++clicks; });
+  user.presses('I', host::shift::Alt);
+  EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(Mnemonics, TheFirstButtonThatCanBePressedHasIt) {
   auto& second = surface().add<host::CommandButton>("second", {0, 30, 100, 20});
   second.SetCaption("&Again");
