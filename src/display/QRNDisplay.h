@@ -234,6 +234,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
   void mouseMove(std::int16_t, std::int16_t, Point) override { hover(nullptr); }
   void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  void mouseLeft() override { hover(nullptr); }
   bool wheel(double notches) override;
   void keyDown(std::int16_t& keyCode, std::int16_t& shift) override;
   void keyPress(std::int16_t& keyAscii) override;

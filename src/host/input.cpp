@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <exception>
-#include <vector>
+#include <utility>
 
 #include "host/command_button.h"
 #include "host/user_control.h"
@@ -182,11 +182,22 @@ void Input::mouseMove(std::int16_t buttons, std::int16_t shiftState, Point at) {
   if (!root_->Enabled() && !capture_) return;
   if (buttons == 0) releaseAll();
   Control* target = capture_ ? capture_ : hit(at);
+  Control* told = asUserControl(target) ? target : target->Parent();
+  if (told != underMouse_.get()) {
+    const WeakRef<Control> guard(target);
+    mouseLeft();
+    if (!guard) return;
+    underMouse_ = WeakRef<Control>(told);
+  }
   const Point local = target->fromSurface(at);
   if (auto* user = asUserControl(target))
     user->mouseMove(buttons, shiftState, local);
   else if (target->Parent())
     target->Parent()->childMouseMove(*target, buttons, shiftState, local);
+}
+
+void Input::mouseLeft() {
+  if (UserControl* left = asUserControl(std::exchange(underMouse_, {}).get())) left->mouseLeft();
 }
 
 void Input::mouseUp(MouseButton button, std::int16_t shiftState, Point at) {

@@ -66,6 +66,8 @@ class Input {
   Control* mouseDown(MouseButton button, std::int16_t shift, Point at);
   void mouseMove(std::int16_t buttons, std::int16_t shift, Point at);
   void mouseUp(MouseButton button, std::int16_t shift, Point at);
+  /// The mouse is over something else than this surface now.
+  void mouseLeft();
   /// The second press of a double click with the left button; the release follows.
   void doubleClick(Point at);
   /// Whether the button is down since a press on this surface.
@@ -110,8 +112,9 @@ class Input {
 
   UserControl* root_;
   Control* focus_ = nullptr;
-  Control* capture_ = nullptr;  // has the mouse from the first press to the last release
-  std::int16_t held_ = 0;       // the mouse buttons that are down
+  Control* capture_ = nullptr;   // has the mouse from the first press to the last release
+  std::int16_t held_ = 0;        // the mouse buttons that are down
+  WeakRef<Control> underMouse_;  // the user control that was told of the mouse last
   WeakRef<Control> lastFocus_;
   // Those who have been told that they got the focus and not that they lost it, the outermost first. While
   // listeners run it may lag behind focus_; it also survives the end of the focused control.

@@ -59,6 +59,8 @@ class UserControl : public ContainerControl, public Site {
   virtual void mouseDown(MouseButton, std::int16_t /*shift*/, Point) {}
   virtual void mouseMove(std::int16_t /*buttons*/, std::int16_t /*shift*/, Point) {}
   virtual void mouseUp(MouseButton, std::int16_t /*shift*/, Point) {}
+  /// The mouse is neither over this control any more nor over a child that is no user control.
+  virtual void mouseLeft() {}
   /// The second press of a quick double click; the release follows. A press like any other unless told
   /// otherwise.
   virtual void doubleClick(Point at) { mouseDown(MouseButton::Left, 0, at); }

@@ -121,5 +121,19 @@ TEST_F(PanelPainting, ATitleButtonIsFramedWhileTheMouseIsOverItOnly) {
   EXPECT_EQ(lines(), before);
 }
 
+TEST_F(PanelPainting, ATitleButtonIsNotFramedWhenTheMouseHasGoneElsewhereAtOnce) {
+  const auto row = panel().Items().AddParameter("", qrnTypeString);
+  panel().LayoutControls(false);
+  const auto lines = [&] { return painted().operations("line").size(); };
+  const auto before = lines();
+  user->hovers(panel().imgClose());
+  user->hovers(row->Control().lblLabel());
+  EXPECT_EQ(lines(), before);
+  user->hovers(panel().imgClose());
+  EXPECT_EQ(lines(), before + 4);
+  panel().input().mouseLeft();  // to another window
+  EXPECT_EQ(lines(), before);
+}
+
 }  // namespace
 }  // namespace qrn::test

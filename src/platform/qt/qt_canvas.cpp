@@ -113,6 +113,10 @@ void QtCanvas::mouseMoveEvent(QMouseEvent* event) {
   });
 }
 
+void QtCanvas::leaveEvent(QEvent*) {
+  if (control_) guarded([&] { input().mouseLeft(); });
+}
+
 void QtCanvas::mouseReleaseEvent(QMouseEvent* event) {
   const auto button = mouseButton(event->button());
   if (!control_ || forwarder_.sending() || !button) return;
