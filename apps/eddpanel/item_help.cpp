@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 
 #include "host/rich_text_box.h"
 #include "richtext/rtf_writer.h"
@@ -54,8 +55,8 @@ richtext::Document documentOf(const ItemHelp& help, const host::Font& font) {
   const auto add = [&](const std::string& text, const richtext::CharFormat& look,
                        const richtext::ParagraphFormat& format = {}) {
     if (text.empty()) return;
-    paragraphs.push_back({format, {}, look});
-    paragraphs.back().append(text, look);
+    const richtext::Document part = richtext::Document::plain(text, look, format);
+    paragraphs.insert(paragraphs.end(), part.paragraphs().begin(), part.paragraphs().end());
   };
   add(help.caption, bold);
   add(help.text, plain);
@@ -65,16 +66,18 @@ richtext::Document documentOf(const ItemHelp& help, const host::Font& font) {
 }
 
 // How many lines a text takes that breaks between words.
-int linesOf(std::string_view text, const QRNDisplay& panel, double width) {
+int linesOf(const std::string& text, const QRNDisplay& panel, double width) {
+  const double blank = panel.TextWidth(" ");
   int lines = 1;
-  std::string line;
-  for (; !text.empty(); text.remove_prefix(std::min(text.find(' ') + 1, text.size()))) {
-    const std::string_view word = text.substr(0, text.find(' '));
-    const std::string longer = line.empty() ? std::string(word) : line + ' ' + std::string(word);
-    const bool fits = line.empty() || panel.TextWidth(longer) <= width;
-    line = fits ? longer : std::string(word);
-    if (!fits) ++lines;
-    if (word.size() == text.size()) break;
+  double used = 0;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    const double wide = panel.TextWidth(word);
+    if (used > 0 && used + blank + wide > width) {
+      ++lines;
+      used = 0;
+    }
+    used += (used > 0 ? blank : 0) + wide;
   }
   return lines;
 }

@@ -1,5 +1,6 @@
 #include "sample_device.h"
 
+#include "item_help.h"
 #include "tooltip/QRNToolTip.h"
 
 namespace qrn::eddpanel {
@@ -169,6 +170,15 @@ TEST_F(SampleDevice, ShowsTheHelpOfAnItemWithABoldCaption) {
   EXPECT_EQ(tip->FontBold(), Variant(true));
   tip->RichTextControl().SetSelStart(10);
   EXPECT_EQ(tip->FontBold(), Variant(false));
+}
+
+TEST_F(SampleDevice, MakesTheToolTipAsTallAsItsText) {
+  std::string text = "First line.\n";
+  for (int word = 0; word < 20; ++word) text += "sevenish ";  // 180 characters, of which a line takes 80
+  QRNToolTip* tip = showHelp(main().panel(), 1, {"Caption", text, {}, {}});
+  ASSERT_NE(tip, nullptr);
+  EXPECT_EQ(tip->Height(), 5 * 13 + 2 * host::RichTextBox::kMargin);
+  EXPECT_TRUE(tip->Text().starts_with("Caption\r\nFirst line.\r\nsevenish"));
 }
 
 TEST_F(SampleDevice, ShowsHelpByKeyByIconAndByContextMenu) {
