@@ -79,7 +79,7 @@ class FltkForm final : public Form {
     painted_ = scroll_->paints;
     XSync(fl_display, 0);
   }
-  void run(double seconds, int timesASecond, const std::function<void()>& tick) override {
+  bool run(double seconds, int timesASecond, const std::function<void()>& tick) override {
     struct Timer {
       const std::function<void()>& tick;
       double interval;
@@ -93,6 +93,7 @@ class FltkForm final : public Form {
     const auto end = std::chrono::steady_clock::now() + std::chrono::duration<double>(seconds);
     while (std::chrono::steady_clock::now() < end) Fl::wait(0.02);
     Fl::remove_timeout(Timer::due, &timer);
+    return true;
   }
 
   void setCaption(int row, const std::string& caption) override {

@@ -18,8 +18,9 @@ class Form {
   virtual void paint() = 0;
   /// Delivers whatever is still due.
   virtual void settle() = 0;
-  /// One round a call of `tick`, so many times a second, with the event loop running for so many seconds.
-  virtual void run(double seconds, int timesASecond, const std::function<void()>& tick) = 0;
+  /// Calls `tick` so many times a second while the event loop runs for so many seconds; false where there is
+  /// none.
+  virtual bool run(double seconds, int timesASecond, const std::function<void()>& tick) = 0;
 
   /// Fits the caption column to all captions as well.
   virtual void setCaption(int row, const std::string& caption) = 0;

@@ -21,7 +21,7 @@ class HeadlessForm final : public Form {
     static_cast<headless::HeadlessPeer&>(*panel_.display().peer()).invalidated.clear();
   }
   void settle() override { platform_.processMessages(); }
-  void run(double, int, const std::function<void()>&) override {}
+  bool run(double, int, const std::function<void()>&) override { return false; }
   void setCaption(int row, const std::string& caption) override { panel_.setCaption(row, caption); }
   int captionWidth() const override { return panel_.captionWidth(); }
   bool layOutAgain() override {

@@ -69,7 +69,7 @@ bool QtForm::pageDown(int pages) {
   return true;
 }
 
-void QtForm::run(double seconds, int timesASecond, const std::function<void()>& tick) {
+bool QtForm::run(double seconds, int timesASecond, const std::function<void()>& tick) {
   QEventLoop loop;
   QTimer ticks;
   ticks.setTimerType(Qt::PreciseTimer);
@@ -77,6 +77,7 @@ void QtForm::run(double seconds, int timesASecond, const std::function<void()>& 
   ticks.start(1000 / timesASecond);
   QTimer::singleShot(static_cast<int>(seconds * 1000), &loop, &QEventLoop::quit);
   loop.exec();
+  return true;
 }
 
 QPixmap pixmapOf(Icon icon) {

@@ -34,7 +34,7 @@ class QtForm : public Form {
  public:
   void paint() override { window_->paint(); }
   void settle() override { QtWindow::settle(); }
-  void run(double seconds, int timesASecond, const std::function<void()>& tick) override;
+  bool run(double seconds, int timesASecond, const std::function<void()>& tick) override;
   int pages() const override { return bar_->maximum() / bar_->pageStep() + 1; }
   void toTop() override { bar_->setValue(0); }
   bool pageDown(int pages) override;
