@@ -41,6 +41,8 @@ void QtWindow::paint() {
 
 void QtWindow::settle() {
   for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+  // Without a loop nothing else would delete what is to be deleted later.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   waitForDisplay();
 }
 

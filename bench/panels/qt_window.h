@@ -32,6 +32,8 @@ class QtWindow final : public QObject {
 /// scroll.
 class QtForm : public Form {
  public:
+  /// What was put off until the window has gone must not be part of the next measurement.
+  ~QtForm() override { QtWindow::settle(); }
   void paint() override { window_->paint(); }
   void settle() override { QtWindow::settle(); }
   bool run(double seconds, int timesASecond, const std::function<void()>& tick) override;

@@ -91,8 +91,8 @@ class Run {
     form_ = contender_.show({wish_.rows});
     const Memory after = memory();
     const double more = std::max(wish_.rows - kPage, 1);
-    report("W5", (after.resident - before.resident) / more, "B/row");
-    report("W5.heap", (after.allocated - before.allocated) / more, "B/row");
+    report("W5", (after.allocated - before.allocated) / more, "B/row");
+    report("W5.resident", (after.resident - before.resident) / more, "B/row");
   }
 
   void building() {
