@@ -18,6 +18,9 @@ WORKLOADS = {
     "W6.format": "format a number as 0.000",
     "W6.read": "read it back",
 }
+# Of these there is the processor time as well, under the name with this ending.
+TIMED = ["W1", "W2", "W2.painted", "W3", "W4", "layout.unchanged"]
+PROCESSOR = ".cpu"
 NAMES = {"panel": "panel", "grid": "Qt widgets in a grid", "table": "Qt table, styled", "fltk": "FLTK"}
 DISPLAYS = {"headless": "headless", "offscreen": "Qt offscreen", "xcb": "Xvfb"}
 
@@ -36,6 +39,11 @@ class Figure(NamedTuple):
     @property
     def key(self):
         return self.contender, self.display, self.workload, self.rows
+
+
+def processor(workload):
+    """The name under which the processor time of a workload stands: its own where there is no other time."""
+    return workload + PROCESSOR if workload in TIMED else workload
 
 
 def read(path):

@@ -2,6 +2,8 @@
 import math
 from xml.sax.saxutils import escape
 
+import figures
+
 # What is shown, and what one of it costs.
 PANELS = {"W1": "µs/row", "W2": "µs/row", "W3": "µs/value", "W4": "µs/page", "W5": "bytes/row"}
 TITLES = {"W1": "Build until painted", "W2": "Refit when a caption grows", "W3": "Write a value until painted",
@@ -38,7 +40,7 @@ class Plot:
         self.workload = workload
         self.lines = {}
         for who in LINES:
-            found = [one for key, one in known.items() if key[:2] == who and key[2] == workload and one.median > 0]
+            found = [one for key, one in known.items() if key[:2] == who and key[2] == figures.processor(workload) and one.median > 0]
             if found:
                 self.lines[who] = sorted((one.rows, cost(one)) for one in found)
         points = [point for line in self.lines.values() for point in line]
@@ -141,7 +143,7 @@ def text(x, y, words, size=10.5, anchor="start", color=INK, weight="normal"):
 
 
 def picture(known):
-    shown = [workload for workload in PANELS if any(key[2] == workload for key in known)]
+    shown = [workload for workload in PANELS if any(key[2] == figures.processor(workload) for key in known)]
     rows = len(shown) // COLUMNS + 1
     width, height = COLUMNS * WIDTH, rows * HEIGHT + 8
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{width}" height="{height}" viewBox="0 0 {width} {height}" '
