@@ -58,22 +58,26 @@ void press(host::Control& control) {
   control.input().mouseDown(host::MouseButton::Left, 0, middleOf(control));
 }
 
-ShownPanel::ShownPanel(int width, int height) : canvas_(platform_.widget(*panel_)) {
-  canvas_->resize(width, height);
+void release(host::Control& control) {
+  control.input().mouseUp(host::MouseButton::Left, 0, middleOf(control));
 }
 
-ShownPanel::~ShownPanel() {
-  panel_.reset();
+ShownControl::~ShownControl() {
   canvas_.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-QImage ShownPanel::picture() {
+void ShownControl::putOnWindow(host::UserControl& control, int width, int height) {
+  canvas_.reset(platform_.widget(control));
+  canvas_->resize(width, height);
+}
+
+QImage ShownControl::picture() {
   canvas_->show();
   return canvas_->grab().toImage().convertToFormat(QImage::Format_RGB32);
 }
 
-void ShownPanel::focusByKeyboard() {
+void ShownControl::focusByKeyboard() {
   canvas_->show();
   canvas_->activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(canvas_.get()));

@@ -11,6 +11,7 @@
 #include "golden/sheet.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_site.h"
+#include "stack/QRNDisplayStack.h"
 
 namespace qrn::golden {
 
@@ -39,28 +40,58 @@ inline auto allLooks() {
 }
 std::string nameOfLook(const testing::TestParamInfo<std::tuple<Look, double>>& test);
 
-/// The mouse over the middle of a control, and its left button down there.
+/// The mouse over the middle of a control, its left button down there, and up again.
 void hover(host::Control& control);
 void press(host::Control& control);
+void release(host::Control& control);
 
-/// A panel on a window of its own.
-class ShownPanel {
+/// A control on a window of its own, which goes when its end says so.
+class ShownControl {
  public:
-  ShownPanel(int width, int height);
-  ~ShownPanel();
+  ShownControl(const ShownControl&) = delete;
+  ShownControl& operator=(const ShownControl&) = delete;
 
-  QRNDisplay& panel() { return *panel_; }
   /// Shows it, if it is not yet, and draws it with all the widgets on it.
   QImage picture();
   /// Makes the window active and goes to its first editor as Tab does.
   void focusByKeyboard();
   void resize(int width, int height) { canvas_->resize(width, height); }
 
+ protected:
+  ShownControl() = default;
+  ~ShownControl();
+  void putOnWindow(host::UserControl& control, int width, int height);
+  host::Site& site() { return site_; }
+
  private:
   qt::QtPlatform platform_;
   qt::QtSite site_{platform_};
-  host::Owned<QRNDisplay> panel_ = host::create<QRNDisplay>(site_);
   std::unique_ptr<QWidget> canvas_;
+};
+
+/// What it shows is a T, made for it.
+template <class T>
+class Shown : public ShownControl {
+ public:
+  Shown(int width, int height) { putOnWindow(*control_, width, height); }
+
+ protected:
+  T& control() { return *control_; }
+
+ private:
+  host::Owned<T> control_ = host::create<T>(site());
+};
+
+class ShownPanel final : public Shown<QRNDisplay> {
+ public:
+  using Shown::Shown;
+  QRNDisplay& panel() { return control(); }
+};
+
+class ShownStack final : public Shown<QRNDisplayStack> {
+ public:
+  using Shown::Shown;
+  QRNDisplayStack& stack() { return control(); }
 };
 
 }  // namespace qrn::golden
