@@ -1,32 +1,14 @@
 #include "host/input.h"
 
 #include <algorithm>
-#include <exception>
 #include <utility>
+#include <vector>
 
+#include "base/first_error.h"
 #include "host/command_button.h"
 #include "host/user_control.h"
 
 namespace qrn::host {
-
-/// Keeps the first error of several calls until the last one is through.
-class FirstError {
- public:
-  template <class Call>
-  void of(Call&& call) {
-    try {
-      call();
-    } catch (...) {
-      if (!first_) first_ = std::current_exception();
-    }
-  }
-  void raise() const {
-    if (first_) std::rethrow_exception(first_);
-  }
-
- private:
-  std::exception_ptr first_;
-};
 
 namespace {
 

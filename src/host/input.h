@@ -6,11 +6,14 @@
 #include "base/geometry.h"
 #include "base/weak_ref.h"
 
+namespace qrn {
+class FirstError;
+}
+
 namespace qrn::host {
 
 enum class Aspect : std::uint8_t;
 class Control;
-class FirstError;
 class UserControl;
 
 enum class MouseButton : std::int16_t { Left = 1, Right = 2, Middle = 4 };

@@ -53,23 +53,29 @@ void QRNDisplayStack::SetEnabled(bool enabled) {
 
 void QRNDisplayStack::SetFont(host::FontPtr font) {
   setFont(std::move(font));
-  forPages(1, Count(), [this](clsDisplayPage& page) { page.Control()->SetFont(this->font()); });
+  FirstError error;
+  const auto set = [this](clsDisplayPage& page) { page.Control()->SetFont(this->font()); };
+  forPages(1, Count(), set, error);
+  error.raise();
 }
 
 void QRNDisplayStack::SetBackColor(host::Color color) {
   if (color == backColor()) return;
   setBackColor(color);
-  forPages(1, Count(), [color](clsDisplayPage& page) { page.Control()->SetBackColor(color); });
+  FirstError error;
+  forPages(
+      1, Count(), [color](clsDisplayPage& page) { page.Control()->SetBackColor(color); }, error);
+  error.raise();
 }
 
 // ---- places ----
 
-bool QRNDisplayStack::forPages(std::int32_t first, std::int32_t last,
-                               const std::function<void(clsDisplayPage&)>& work) {
+bool QRNDisplayStack::forPages(std::int32_t first, std::int32_t last, const PageWork& work,
+                               FirstError& error) {
   const WeakRef<Control> self(this);
   for (std::int32_t k = first; self && k <= std::min(last, Count()); ++k) {
     const Page one = page(k);
-    work(*one);
+    error.of([&] { work(*one); });
   }
   return static_cast<bool>(self);
 }
@@ -80,26 +86,34 @@ void QRNDisplayStack::layOut(clsDisplayPage& page, bool maximized) {
   const PagePlace place{leftIndent_ * level, topIndent_ * level, maximized,
                         display.TitleStyle() == qrnTitleDialog, display.GetMenuItemHeight()};
   const Rect bounds = placePage(place, {ScaleWidth(), ScaleHeight()});
-  display.Move(bounds.left, bounds.top, bounds.width, bounds.height);
+  FirstError error;
+  error.of([&] { display.Move(bounds.left, bounds.top, bounds.width, bounds.height); });
   if (page.isOpen()) display.SetMaximized(maximized);
+  error.raise();
 }
 
 void QRNDisplayStack::layOutAll() {
+  FirstError error;
   const auto keep = [this](clsDisplayPage& page) { layOut(page, page.Control()->Maximized()); };
-  if (forPages(1, Count(), keep)) settleScrollBars();
+  if (forPages(1, Count(), keep, error)) settleScrollBars();
+  error.raise();
 }
 
 // The first page always fills the stack: it only learns that it does when it is the one that was asked.
 void QRNDisplayStack::maximize(std::int32_t index) {
+  FirstError error;
   const auto grow = [this](clsDisplayPage& page) { layOut(page, true); };
-  bool there = forPages(index, index, grow);
-  for (std::int32_t k = index - 1; there && k >= 2; --k) there = forPages(k, k, grow);
+  bool there = forPages(index, index, grow, error);
+  for (std::int32_t k = index - 1; there && k >= 2; --k) there = forPages(k, k, grow, error);
   if (there) settleScrollBars();
+  error.raise();
 }
 
 void QRNDisplayStack::restore(std::int32_t index) {
+  FirstError error;
   const auto shrink = [this](clsDisplayPage& page) { layOut(page, false); };
-  if (forPages(std::min(2, index), index, shrink)) settleScrollBars();
+  if (forPages(std::min(2, index), index, shrink, error)) settleScrollBars();
+  error.raise();
 }
 
 // A native scroll bar would show through the pages above its own.

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "base/first_error.h"
 #include "base/weak_ref.h"
 #include "display/QRNDisplay.h"
 #include "host/user_control.h"
@@ -122,8 +123,10 @@ class QRNDisplayStack final : public host::UserControl {
   /// Whether there is a page that takes all input until it is closed.
   bool hasDialog() const;
   /// What is done to a page may let listeners run, which may do anything: each page is looked up when its
-  /// turn comes. Answers whether the stack is still there.
-  bool forPages(std::int32_t first, std::int32_t last, const std::function<void(clsDisplayPage&)>& work);
+  /// turn comes, and an error of one is no reason to leave out the others. Answers whether the stack is still
+  /// there.
+  using PageWork = std::function<void(clsDisplayPage&)>;
+  bool forPages(std::int32_t first, std::int32_t last, const PageWork& work, FirstError& error);
 
   // ---- places ----
   void layOut(clsDisplayPage& page, bool maximized);
@@ -135,12 +138,14 @@ class QRNDisplayStack final : public host::UserControl {
   // ---- pages come and go (QRNDisplayStack_pages.cpp) ----
   Page makePage(const std::string& name);
   void dress(QRNDisplay& display, std::int32_t index, const std::string& title, bool modal);
-  void cover(const Page& below, const Page& above);
+  // An error of a listener is raised when everything is in order again.
+  void putOnTop(const Page& added, bool modal, FirstError& error);
+  void cover(const Page& below, const Page& above, FirstError& error);
   enum class Closed : std::uint8_t { Nothing, Some, SomeUnderAnother };
-  Closed closeAbove(std::int32_t index);
+  Closed closeAbove(std::int32_t index, FirstError& error);
   void close(const Page& page);
   void enableDownToDialog();
-  void uncoverTop();
+  void uncoverTop(FirstError& error);
 
   SelectableList<clsDisplayPage> pages_;
   QRNImageList* imageList_ = nullptr;

@@ -21,21 +21,28 @@ QRNDisplay* QRNDisplayStack::AddPage(const std::string& PageName, const std::str
   // Whoever hears of it may close the page, or put another one on it.
   const auto there = [&] { return self && added->isOpen(); };
 
+  FirstError error;
   dress(*added->Control(), index, Title, bModal);
-  raise(PageLayout, "PageLayout", index);
-  if (!there()) return nullptr;
+  error.of([&] { raise(PageLayout, "PageLayout", index); });
+  if (there()) putOnTop(added, bModal, error);
+  error.raise();
+  return there() ? added->Control() : nullptr;
+}
+
+void QRNDisplayStack::putOnTop(const Page& added, bool modal, FirstError& error) {
+  const WeakRef<Control> self(this);
+  const std::int32_t index = added->PageIndex();
   if (isTop(*added)) bringToFront(*added->Control());
   if (index > 1)
-    cover(page(index - 1), added);
+    cover(page(index - 1), added, error);
   else
-    layOut(*added, false);
-  if (!there()) return nullptr;
-  if (bModal) {
+    error.of([&] { layOut(*added, false); });
+  if (!self || !added->isOpen()) return;
+  if (modal) {
     for (std::int32_t k = 1; k < index; ++k) page(k)->Control()->SetEnabled(false);
   }
   settleScrollBars();
-  if (isTop(*added)) raise(PageActivate, "PageActivate", index);
-  return there() ? added->Control() : nullptr;
+  if (isTop(*added)) error.of([&] { raise(PageActivate, "PageActivate", index); });
 }
 
 QRNDisplayStack::Page QRNDisplayStack::makePage(const std::string& name) {
@@ -63,18 +70,19 @@ void QRNDisplayStack::dress(QRNDisplay& display, std::int32_t index, const std::
   display.SetTitleStyle(modal ? qrnTitleDialog : qrnTitleStandard);
 }
 
-void QRNDisplayStack::cover(const Page& below, const Page& above) {
+void QRNDisplayStack::cover(const Page& below, const Page& above, FirstError& error) {
   const WeakRef<Control> self(this);
   const Page covered = below;
-  const auto there = [&] { return self && covered->isOpen(); };
-  layOut(*above, covered->Control()->Maximized());
+  // Covered as long as the page above is there: when that goes, this one is uncovered again.
+  const auto there = [&] { return self && covered->isOpen() && above->isOpen(); };
+  error.of([&] { layOut(*above, covered->Control()->Maximized()); });
   if (!there()) return;
   // The keyboard goes along with what can't be seen any more, and leaves what can.
-  if (hideDisabledControls_) covered->Control()->ControlsContainer().SetVisible(false);
-  if (there() && covered->Control()->hasFocus()) input().setFocus(nullptr);
+  if (hideDisabledControls_) error.of([&] { covered->Control()->ControlsContainer().SetVisible(false); });
+  if (there() && covered->Control()->hasFocus()) error.of([&] { input().setFocus(nullptr); });
   if (!there()) return;
   covered->Control()->SetActive(false);
-  raise(PageDeactivate, "PageDeactivate", covered->PageIndex());
+  error.of([&] { raise(PageDeactivate, "PageDeactivate", covered->PageIndex()); });
 }
 
 // ---- pages go ----
@@ -82,22 +90,25 @@ void QRNDisplayStack::cover(const Page& below, const Page& above) {
 void QRNDisplayStack::ActivatePage(std::int32_t PageIndex) {
   if (PageIndex >= Count()) return;
   const WeakRef<Control> self(this);
-  const Closed closed = closeAbove(PageIndex);
-  if (!self || closed == Closed::Nothing || Count() == 0) return;
-  enableDownToDialog();
-  if (closed == Closed::Some) uncoverTop();
+  FirstError error;
+  const Closed closed = closeAbove(PageIndex, error);
+  if (self && closed != Closed::Nothing && Count() > 0) {
+    enableDownToDialog();
+    if (closed == Closed::Some) uncoverTop(error);
+  }
+  error.raise();
 }
 
 // Each page is asked once. A listener may have closed it itself, and then its turn is over; or it has put
-// another page on it, and then it stays where it is.
-QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index) {
+// another page on it, and then it stays where it is. One that fails has not let go of the page.
+QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index, FirstError& error) {
   const WeakRef<Control> self(this);
   Closed closed = Closed::Nothing;
   for (std::int32_t k = Count(); k > std::max(index, 0); --k) {
     if (k > Count()) continue;
     const Page asked = page(k);
     bool cancel = false;
-    raise(PageClose, "PageClose", k, cancel);
+    if (!error.of([&] { raise(PageClose, "PageClose", k, cancel); })) cancel = true;
     if (!self) return closed;
     if (!asked->isOpen()) continue;
     if (!isTop(*asked)) return closed == Closed::Nothing ? closed : Closed::SomeUnderAnother;
@@ -130,16 +141,16 @@ void QRNDisplayStack::enableDownToDialog() {
   }
 }
 
-void QRNDisplayStack::uncoverTop() {
+void QRNDisplayStack::uncoverTop(FirstError& error) {
   const WeakRef<Control> self(this);
   const Page top = page(Count());
   const auto there = [&] { return self && isTop(*top); };
   top->Control()->SetActive(true);
   top->Control()->ControlsContainer().SetVisible(true);
-  if (there()) top->Control()->SetItemFocus(Variant(0));
+  error.of([&] { top->Control()->SetItemFocus(Variant(0)); });
   if (!there()) return;
   DebugTrace("RaiseEvent PageActivate", kTraceLevel);
-  raise(PageActivate, "PageActivate", top->PageIndex());
+  error.of([&] { raise(PageActivate, "PageActivate", top->PageIndex()); });
   DebugTrace("RaiseEvent PageActivate DONE", kTraceLevel);
 }
 

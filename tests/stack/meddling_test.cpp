@@ -10,21 +10,6 @@ namespace {
 
 class Meddling : public StackTest {
  protected:
-  /// Exactly one page is active, the top one, and those below the uppermost modal one are disabled.
-  void expectInOrder() {
-    const std::int32_t count = stack().Count();
-    EXPECT_EQ(activePages(stack()),
-              std::string(static_cast<std::size_t>(std::max(count - 1, 0)), '.') + (count > 0 ? "A" : ""));
-    std::int32_t dialog = 0;
-    for (std::int32_t i = 1; i <= count; ++i) {
-      EXPECT_EQ(page(i).ControlsContainer().Visible(), i == count) << i;
-      if (page(i).TitleStyle() == qrnTitleDialog) dialog = i;
-    }
-    for (std::int32_t i = 1; i <= count; ++i) EXPECT_EQ(page(i).Enabled(), i >= dialog) << i;
-    if (count == 0) return;
-    EXPECT_EQ(stack().contained().back(), &page(count)) << "the top page is in front";
-  }
-
   /// Once, so that what it does itself is left alone.
   std::function<void()> once(std::function<void()> action) {
     return [action = std::move(action), done = false]() mutable {
@@ -67,6 +52,17 @@ TEST_F(Meddling, ThePagesMayBeClosedWhenOneIsCovered) {
   keep = stack().PageDeactivate.connect([&](std::int32_t) { stack().ActivatePage(0); });
   EXPECT_EQ(add(true), nullptr);
   EXPECT_EQ(stack().Count(), 0);
+}
+
+TEST_F(Meddling, ThePageMayBeClosedThatTakesTheFocusFromOneBelow) {
+  user->focuses(addRow(*add()));
+  keep = stack().ItemLostFocus.connect([&](std::int32_t&, std::int32_t&) { stack().ActivatePage(1); });
+  take();
+  EXPECT_EQ(add(true), nullptr);
+  EXPECT_EQ(stack().Count(), 1);
+  EXPECT_EQ(take(), (Events{"PageLayout(2)", "ParameterEndEdit(1, 1, False)", "PageClose(2, False)",
+                            "PageActivate(1)", "ItemLostFocus(1, 1)"}));
+  expectInOrder();
 }
 
 TEST_F(Meddling, APageMayBeAddedOrClosedWhenOneIsActivated) {

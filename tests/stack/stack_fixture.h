@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
@@ -8,6 +9,19 @@
 #include "support/panel_fixture.h"
 
 namespace qrn::test {
+
+/// The enabled pages from below, as in "..E": two disabled ones under an enabled one.
+inline std::string enabledPages(QRNDisplayStack& stack) {
+  std::string result;
+  for (std::int32_t i = 1; i <= stack.Count(); ++i) result += stack.Pages(Variant(i)).Enabled() ? 'E' : '.';
+  return result;
+}
+
+inline std::string activePages(QRNDisplayStack& stack) {
+  std::string result;
+  for (std::int32_t i = 1; i <= stack.Count(); ++i) result += stack.Pages(Variant(i)).Active() ? 'A' : '.';
+  return result;
+}
 
 /// A stack on the headless platform: 400 by 300, indents of 10 and 20, characters 6 wide and 13 high.
 class StackTest : public ::testing::Test {
@@ -49,6 +63,21 @@ class StackTest : public ::testing::Test {
   /// What was raised since the last call.
   Events take() { return std::exchange(lines_, {}); }
 
+  /// Exactly one page is active, the top one, and those below the uppermost modal one are disabled.
+  void expectInOrder() {
+    const std::int32_t count = stack().Count();
+    EXPECT_EQ(activePages(stack()),
+              std::string(static_cast<std::size_t>(std::max(count - 1, 0)), '.') + (count > 0 ? "A" : ""));
+    std::int32_t dialog = 0;
+    for (std::int32_t i = 1; i <= count; ++i) {
+      EXPECT_EQ(page(i).ControlsContainer().Visible(), i == count) << i;
+      if (page(i).TitleStyle() == qrnTitleDialog) dialog = i;
+    }
+    for (std::int32_t i = 1; i <= count; ++i) EXPECT_EQ(page(i).Enabled(), i >= dialog) << i;
+    if (count == 0) return;
+    EXPECT_EQ(stack().contained().back(), &page(count)) << "the top page is in front";
+  }
+
   headless::HeadlessPlatform platform;
   headless::HeadlessSite site{platform};
   host::Owned<QRNDisplayStack> stack_;
@@ -59,18 +88,5 @@ class StackTest : public ::testing::Test {
   Connection listening_;
   Events lines_;
 };
-
-/// The enabled pages from below, as in "..E": two disabled ones under an enabled one.
-inline std::string enabledPages(QRNDisplayStack& stack) {
-  std::string result;
-  for (std::int32_t i = 1; i <= stack.Count(); ++i) result += stack.Pages(Variant(i)).Enabled() ? 'E' : '.';
-  return result;
-}
-
-inline std::string activePages(QRNDisplayStack& stack) {
-  std::string result;
-  for (std::int32_t i = 1; i <= stack.Count(); ++i) result += stack.Pages(Variant(i)).Active() ? 'A' : '.';
-  return result;
-}
 
 }  // namespace qrn::test
