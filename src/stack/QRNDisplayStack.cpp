@@ -36,7 +36,11 @@ bool QRNDisplayStack::hasDialog() const {
 void QRNDisplayStack::storeIndent(std::int32_t& field, std::int32_t indent, std::string_view key) {
   if (indent == field) return;
   field = indent;
-  if (propertyChanged(key)) layOutAll();
+  const WeakRef<Control> self(this);
+  FirstError error;
+  error.of([&] { propertyChanged(key); });
+  if (self) error.of([&] { layOutAll(); });
+  error.raise();
 }
 
 void QRNDisplayStack::SetHideDisabledControls(bool hide) {

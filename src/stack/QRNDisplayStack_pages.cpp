@@ -100,7 +100,8 @@ void QRNDisplayStack::ActivatePage(std::int32_t PageIndex) {
 }
 
 // Each page is asked once. A listener may have closed it itself, and then its turn is over; or it has put
-// another page on it, and then it stays where it is. One that fails has not let go of the page.
+// another page on it or in its place, and then everything stays where it is. One that fails has not let go of
+// the page.
 QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index, FirstError& error) {
   const WeakRef<Control> self(this);
   Closed closed = Closed::Nothing;
@@ -110,8 +111,9 @@ QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index, FirstErr
     bool cancel = false;
     if (!error.of([&] { raise(PageClose, "PageClose", k, cancel); })) cancel = true;
     if (!self) return closed;
+    const bool another = Count() >= k && !isTop(*asked);
+    if (another) return closed == Closed::Nothing ? closed : Closed::SomeUnderAnother;
     if (!asked->isOpen()) continue;
-    if (!isTop(*asked)) return closed == Closed::Nothing ? closed : Closed::SomeUnderAnother;
     if (cancel) return closed;
     close(asked);
     if (!self) return closed;

@@ -76,6 +76,18 @@ TEST_F(FailingListener, OfAPageThatIsAskedForKeepsIt) {
   expectInOrder();
 }
 
+TEST_F(FailingListener, OfAChangedIndentLeavesThePagesInTheirPlaces) {
+  struct FailingSite final : headless::HeadlessSite {
+    using HeadlessSite::HeadlessSite;
+    void propertyChanged(host::UserControl&, std::string_view) override { fail(); }
+  } failing{platform};
+  const auto other = host::create<QRNDisplayStack>(failing);
+  other->Move(0, 0, 400, 300);
+  for (int i = 0; i < 2; ++i) other->AddPage("", "", false);
+  expectFailure([&] { other->SetLeftIndent(30); });
+  EXPECT_EQ(other->Pages(Variant(2)).bounds(), (Rect{30, 20, 370, 280}));
+}
+
 // ---- a page that can't be laid out ----
 
 class TallPage : public FailingListener {

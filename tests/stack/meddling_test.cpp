@@ -108,6 +108,19 @@ TEST_F(Meddling, AQuestionPutOnALowerPageEndsTheClosing) {
   EXPECT_EQ(take().back(), "PageClose(2, False)") << "the question was activated when it came";
 }
 
+TEST_F(Meddling, APageThatTakesThePlaceOfTheClosedOneEndsTheClosing) {
+  addPages("...");
+  keep = stack().PageClose.connect([&, replace = once([&] {
+                                         stack().ActivatePage(2);
+                                         add(true);
+                                       })](std::int32_t, bool&) mutable { replace(); });
+  stack().ActivatePage(0);
+  EXPECT_EQ(take(), (Events{"PageClose(3, False)", "PageActivate(2)", "PageLayout(3)", "PageDeactivate(2)",
+                            "PageActivate(3)", "PageClose(3, False)"}));
+  EXPECT_EQ(stack().Count(), 3);
+  expectInOrder();
+}
+
 TEST_F(Meddling, AFailingListenerKeepsThePageThatItWasAskedFor) {
   addPages("...");
   keep = stack().PageClose.connect([&](std::int32_t index, bool&) {
