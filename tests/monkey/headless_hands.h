@@ -29,28 +29,28 @@ class HeadlessHands : public Hands {
   host::Platform& platform() override { return machine_; }
   host::Site& site() override { return site_; }
 
-  void show(QRNDisplay& panel) override {
-    if (panel_.get() == &panel && panel.peer()) return;
-    panel_ = WeakRef<host::Control>(&panel);
-    user_ = std::make_unique<headless::User>(machine_, panel);
-    panel.realise();
+  void show(host::UserControl& surface) override {
+    if (surface_.get() == &surface && surface.peer()) return;
+    surface_ = WeakRef<host::Control>(&surface);
+    user_ = std::make_unique<headless::User>(machine_, surface);
+    surface.realise();
   }
 
   void close() override {
-    if (!panel_ || !panel_->peer()) return;
-    panel().input().surfaceLostFocus();
-    if (panel_) dropPeers(panel());
+    if (!surface_ || !surface_->peer()) return;
+    surface().input().surfaceLostFocus();
+    if (surface_) dropPeers(surface());
   }
 
   void resize(Size size) override {
-    if (panel_) panel_->Move(0, 0, size.width, size.height);
+    if (surface_) surface_->Move(0, 0, size.width, size.height);
   }
 
   void paint() override {
-    if (!panel_ || !panel_->peer()) return;
-    static_cast<headless::HeadlessPeer&>(*panel_->peer()).invalidated.clear();
-    headless::RecordingSurface surface(machine_, panel_->pixelSize());
-    panel().paintTree(surface);
+    if (!surface_ || !surface_->peer()) return;
+    static_cast<headless::HeadlessPeer&>(*surface_->peer()).invalidated.clear();
+    headless::RecordingSurface paper(machine_, surface_->pixelSize());
+    surface().paintTree(paper);
   }
 
   void press(Point at, host::MouseButton button) override {
@@ -63,13 +63,13 @@ class HeadlessHands : public Hands {
     if (shown()) user_->movesTo(at);
   }
   void doubleClick(Point at) override {
-    if (shown()) panel().input().doubleClick(at);
+    if (shown()) surface().input().doubleClick(at);
   }
   void turnWheel(Point at, double notches) override {
     if (shown()) user_->turnsWheel(at, notches);
   }
-  void scroll(std::int32_t value) override {
-    if (shown()) user_->scrollsTo(panel().sbrVertical(), value);
+  void scroll(host::VScrollBar& bar, std::int32_t value) override {
+    if (shown()) user_->scrollsTo(bar, value);
   }
   void pressKey(std::int16_t key, std::int16_t shift) override {
     if (shown()) user_->presses(key, shift);
@@ -80,10 +80,10 @@ class HeadlessHands : public Hands {
   void willChoose(std::optional<int> entry) override { machine_.willChoose(entry); }
 
   void surfaceGetsFocus() override {
-    if (shown()) panel().input().surfaceGotFocus();
+    if (shown()) surface().input().surfaceGotFocus();
   }
   void surfaceLosesFocus() override {
-    if (shown()) panel().input().surfaceLostFocus();
+    if (shown()) surface().input().surfaceLostFocus();
   }
   void applicationActivated(bool active) override { machine_.windows().applicationActivated(active); }
   void letTimePass(std::chrono::milliseconds time) override { machine_.clock().advance(time); }
@@ -97,9 +97,9 @@ class HeadlessHands : public Hands {
   }
 
  protected:
-  /// The panel that was shown last, and whether there still is a surface that a user can see.
-  QRNDisplay& panel() { return static_cast<QRNDisplay&>(*panel_); }
-  bool shown() const { return panel_ && panel_->peer() && panel_->Visible(); }
+  /// What was shown last, and whether a user still can see it.
+  host::UserControl& surface() { return static_cast<host::UserControl&>(*surface_); }
+  bool shown() const { return surface_ && surface_->peer() && surface_->Visible(); }
 
  private:
   static void dropPeers(host::ContainerControl& container) {
@@ -112,7 +112,7 @@ class HeadlessHands : public Hands {
 
   headless::HeadlessPlatform machine_;
   ListeningSite site_{machine_, *this};
-  WeakRef<host::Control> panel_;
+  WeakRef<host::Control> surface_;
   std::unique_ptr<headless::User> user_;
 };
 

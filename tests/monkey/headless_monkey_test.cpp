@@ -11,18 +11,25 @@ constexpr std::size_t kSteps = 5000;
 class HeadlessMonkey : public testing::TestWithParam<int> {};
 
 TEST_P(HeadlessMonkey, BreaksNoPromiseOfAPanel) {
-  EXPECT_EQ(playSeed(makeHeadlessHands, static_cast<std::uint64_t>(GetParam()), kSteps), "");
+  EXPECT_EQ(playSeed(makeHeadlessHands, Game::Panel, static_cast<std::uint64_t>(GetParam()), kSteps), "");
+}
+
+TEST_P(HeadlessMonkey, BreaksNoPromiseOfAStack) {
+  EXPECT_EQ(playSeed(makeHeadlessHands, Game::Stack, static_cast<std::uint64_t>(GetParam()), kSteps), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Seed, HeadlessMonkey, testing::Range(1, 21));
 
 TEST(HeadlessMonkey, DoesTheSameWithTheSameSeed) {
-  const auto told = [] {
-    std::string all;
-    play(makeHeadlessHands, randomSteps(7, 300), [&](const std::string& note) { all += note + "\n"; });
-    return all;
-  };
-  EXPECT_EQ(told(), told());
+  for (const Game game : {Game::Panel, Game::Stack}) {
+    const auto told = [game] {
+      std::string all;
+      play(makeHeadlessHands, game, randomSteps(game, 7, 300),
+           [&](const std::string& note) { all += note + "\n"; });
+      return all;
+    };
+    EXPECT_EQ(told(), told());
+  }
 }
 
 }  // namespace

@@ -49,7 +49,9 @@ class ClumsyHands final : public HeadlessHands {
   }
   void resize(Size size) override {
     HeadlessHands::resize(size);
-    if (painted_ && shown()) panel().ControlsContainer().scrollTo(panel().sbrVertical().Value() + 7);
+    if (!painted_ || !shown()) return;
+    auto& panel = static_cast<QRNDisplay&>(surface());
+    panel.ControlsContainer().scrollTo(panel.sbrVertical().Value() + 7);
   }
 
  private:
@@ -58,7 +60,7 @@ class ClumsyHands final : public HeadlessHands {
 
 TEST(Shrinking, TellsTheSeedAndTheStepsThatBreakAPromise) {
   const auto clumsy = [] { return std::make_unique<ClumsyHands>(); };
-  const std::string report = playSeed(clumsy, 5, 2000);
+  const std::string report = playSeed(clumsy, Game::Panel, 5, 2000);
   const auto tells = [&](const char* what) { return report.find(what) != std::string::npos; };
   EXPECT_TRUE(tells("seed 5, step ")) << report;
   EXPECT_TRUE(tells("the items are scrolled as the bar says")) << report;

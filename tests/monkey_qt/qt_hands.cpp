@@ -89,10 +89,10 @@ class QtHands final : public Hands {
   host::Platform& platform() override { return machine_; }
   host::Site& site() override { return site_; }
 
-  void show(QRNDisplay& panel) override {
-    panel_ = WeakRef<host::Control>(&panel);
-    canvas_ = machine_.widget(panel);
-    canvas_->resize(static_cast<int>(panel.Width()), static_cast<int>(panel.Height()));
+  void show(host::UserControl& surface) override {
+    surface_ = WeakRef<host::Control>(&surface);
+    canvas_ = machine_.widget(surface);
+    canvas_->resize(static_cast<int>(surface.Width()), static_cast<int>(surface.Height()));
     canvas_->show();
     canvas_->activateWindow();
     settle();
@@ -107,8 +107,8 @@ class QtHands final : public Hands {
   void resize(Size size) override {
     if (canvas_)
       canvas_->resize(static_cast<int>(size.width), static_cast<int>(size.height));
-    else if (panel_)
-      panel_->Move(0, 0, size.width, size.height);
+    else if (surface_)
+      surface_->Move(0, 0, size.width, size.height);
     settle();
   }
   void paint() override {
@@ -130,9 +130,13 @@ class QtHands final : public Hands {
     QApplication::sendEvent(target, &event);
     settle();
   }
-  void scroll(std::int32_t value) override {
-    auto* bar = canvas_ ? canvas_->findChild<QScrollBar*>({}, Qt::FindDirectChildrenOnly) : nullptr;
-    if (bar) bar->setValue(value);
+  // A bar that lies under something else has no widget.
+  void scroll(host::VScrollBar& bar, std::int32_t value) override {
+    const Rect seen = bar.visibleOnSurface();
+    if (!canvas_ || seen.empty()) return;
+    const Point middle{seen.left + seen.width / 2, seen.top + seen.height / 2};
+    const QPoint place(static_cast<int>(middle.x), static_cast<int>(middle.y));
+    if (auto* widget = qobject_cast<QScrollBar*>(widgetAt(place))) widget->setValue(value);
     settle();
   }
   void pressKey(std::int16_t key, std::int16_t shift) override {
@@ -213,7 +217,7 @@ class QtHands final : public Hands {
 
   qt::QtPlatform machine_;
   ListeningSite site_{machine_, *this};
-  WeakRef<host::Control> panel_;
+  WeakRef<host::Control> surface_;
   QPointer<QWidget> canvas_;
   QTimer chooser_;
   std::optional<int> wish_;

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "game.h"
+
 namespace qrn::monkey {
 
 class Numbers;
@@ -12,17 +14,20 @@ class Stage;
 /// Who acts: a host may hear of an error, a user never does.
 enum class Actor : unsigned char { Host, User };
 
+enum class Needs : unsigned char { Panel, Surface };
+
 struct Action {
   std::string_view name;
   std::size_t weight;  // how often it is drawn, compared with the others
   Actor actor;
   void (*make)(Stage&, Numbers&);
+  Needs needs = Needs::Panel;
 };
 
 using Actions = std::vector<Action>;
 
-/// All that the monkey knows to do.
-const Actions& actions();
+/// All that the monkey knows to do in a game.
+const Actions& actions(Game game);
 
 // One source file each.
 void addItemCalls(Actions& to);
@@ -33,5 +38,6 @@ void addFooterCalls(Actions& to);
 void addMouseActions(Actions& to);
 void addKeyActions(Actions& to);
 void addMeddling(Actions& to);
+void addStackCalls(Actions& to);
 
 }  // namespace qrn::monkey

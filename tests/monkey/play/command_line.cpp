@@ -18,6 +18,9 @@ struct Wishes {
   std::uint64_t steps = 0;
   std::uint64_t seed = 1;
   bool trace = false;
+  bool stack = false;
+
+  Game game() const { return stack ? Game::Stack : Game::Panel; }
 };
 
 bool read(std::string_view text, std::uint64_t& number) {
@@ -30,8 +33,8 @@ std::optional<Wishes> wishesOf(int argc, char** argv) {
   Wishes wishes;
   for (int i = 1; i < argc; ++i) {
     const std::string_view word = argv[i];
-    if (word == "--trace") {
-      wishes.trace = true;
+    if (word == "--trace" || word == "--stack") {
+      (word == "--trace" ? wishes.trace : wishes.stack) = true;
       continue;
     }
     std::uint64_t* const number = word == "--steps"  ? &wishes.steps
@@ -42,8 +45,8 @@ std::optional<Wishes> wishesOf(int argc, char** argv) {
   return wishes;
 }
 
-void trace(const MakeHands& makeHands, std::uint64_t seed, std::size_t count) {
-  const auto failure = play(makeHands, randomSteps(seed, count), [](const std::string& note) {
+void trace(const MakeHands& makeHands, Game game, std::uint64_t seed, std::size_t count) {
+  const auto failure = play(makeHands, game, randomSteps(game, seed, count), [](const std::string& note) {
     std::printf("%s\n", note.c_str());
     std::fflush(stdout);
   });
@@ -59,15 +62,15 @@ std::optional<int> playFromCommandLine(int argc, char** argv, const MakeHands& m
   if (!asked) return std::nullopt;
   const auto wishes = wishesOf(argc, argv);
   if (!wishes) {
-    std::fprintf(stderr, "usage: %s --steps N [--seed S] [--trace]\n", argv[0]);
+    std::fprintf(stderr, "usage: %s --steps N [--stack] [--seed S] [--trace]\n", argv[0]);
     return 2;
   }
   int failures = 0;
   std::uint64_t seed = wishes->seed;
   for (std::uint64_t done = 0; done < wishes->steps; ++seed) {
     const std::uint64_t count = std::min(kStepsOfASeed, wishes->steps - done);
-    if (wishes->trace) trace(makeHands, seed, count);
-    const std::string report = playSeed(makeHands, seed, count);
+    if (wishes->trace) trace(makeHands, wishes->game(), seed, count);
+    const std::string report = playSeed(makeHands, wishes->game(), seed, count);
     if (!report.empty()) std::printf("%s", report.c_str()), std::fflush(stdout), ++failures;
     done += count;
   }

@@ -8,15 +8,16 @@
 #include <string>
 #include <string_view>
 
-#include "display/QRNDisplay.h"
 #include "host/input.h"
 #include "host/platform.h"
 #include "host/site.h"
+#include "host/user_control.h"
+#include "host/v_scroll_bar.h"
 
 namespace qrn::monkey {
 
-/// The monkey's hands on one platform: a machine, and a user who sits in front of its only panel. Points are
-/// pixels of the panel. The panel may go inside any of these calls.
+/// The monkey's hands on one platform: a machine, and a user who sits in front of its only surface, a panel
+/// or a stack of them. Points are pixels of the surface, which may go inside any of these calls.
 class Hands {
  public:
   virtual ~Hands() = default;
@@ -25,9 +26,9 @@ class Hands {
   /// Tells `siteHeard` of every changed property.
   virtual host::Site& site() = 0;
 
-  /// Gives a panel its native surface; it is the one in front of the user from here on.
-  virtual void show(QRNDisplay& panel) = 0;
-  /// The surface goes, the panel stays.
+  /// Gives a control its native surface; it is the one in front of the user from here on.
+  virtual void show(host::UserControl& surface) = 0;
+  /// The native surface goes, the control stays.
   virtual void close() = 0;
   virtual void resize(Size size) = 0;
   virtual void paint() = 0;
@@ -37,7 +38,7 @@ class Hands {
   virtual void move(Point at) = 0;
   virtual void doubleClick(Point at) = 0;
   virtual void turnWheel(Point at, double notches) = 0;
-  virtual void scroll(std::int32_t value) = 0;
+  virtual void scroll(host::VScrollBar& bar, std::int32_t value) = 0;
 
   virtual void pressKey(std::int16_t key, std::int16_t shift) = 0;
   virtual void type(std::string_view text) = 0;
@@ -50,7 +51,7 @@ class Hands {
   virtual void letTimePass(std::chrono::milliseconds time) = 0;
   virtual void runMessages() = 0;
 
-  /// What a panel that has gone left behind, in words; empty for nothing.
+  /// What a surface that has gone left behind, in words; empty for nothing.
   virtual std::string leftBehind() = 0;
   /// An error that nobody could catch, in words; empty for none since the last call.
   virtual std::string uncaughtError() { return {}; }

@@ -114,7 +114,7 @@ void setColumnLayout(Stage& stage, Numbers& numbers) {
   const auto label = numbers.oneOf(weights), value = numbers.oneOf(weights), unit = numbers.oneOf(weights);
   const float tolerance = numbers.oneOf(tolerances);
   stage.note("SetColumnLayout(", label, ", ", value, ", ", unit, ", ", tolerance, ")");
-  stage.columns = ColumnWeights::of(label, value, unit, tolerance);
+  stage.columns() = ColumnWeights::of(label, value, unit, tolerance);
   stage.panel()->SetColumnLayout(label, value, unit, tolerance);
   if (!stage.audience().meddledInThisStep()) checkItemsLieWhereTheyBelong(stage);
 }

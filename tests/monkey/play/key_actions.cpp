@@ -13,6 +13,7 @@ void walk(Stage& stage, Numbers& numbers) {
   stage.note("user.presses(key::Tab", back ? ", shift::Shift)" : ")");
   stage.hands().pressKey(key::Tab, back ? host::shift::Shift : host::shift::None);
   checkFocusIsOfUse(stage);
+  checkKeyboardStaysOnTop(stage);
 }
 
 void pressKey(Stage& stage, Numbers& numbers) {

@@ -13,9 +13,9 @@ namespace {
 constexpr double kNarrowest = 80;  // of an item, whatever the panel's width
 
 // Stacks the items as LayoutControls has to, from what the rows say of themselves.
-class Stack {
+class Column {
  public:
-  explicit Stack(Stage& stage) : stage_(stage), panel_(*stage.panel()) {}
+  explicit Column(Stage& stage) : stage_(stage), panel_(*stage.panel()) {}
 
   void check() {
     widths_ = fit();
@@ -29,7 +29,7 @@ class Stack {
 
  private:
   ColumnWidths fit() const {
-    ColumnFit fit(stage_.columns);
+    ColumnFit fit(stage_.columns());
     for (const PanelItemPtr& item : panel_.Items()) {
       const auto parameter = std::dynamic_pointer_cast<clsQRNParam>(item);
       if (!parameter) continue;
@@ -62,11 +62,11 @@ class Stack {
     ColumnWidths wished = widths_;
     double free = width - row.GetMinBruttoWidth();
     for (int i = 0; i < kColumns; ++i) {
-      if (stage_.columns.isAutomatic(i)) free -= wished[static_cast<std::size_t>(i)];
+      if (stage_.columns().isAutomatic(i)) free -= wished[static_cast<std::size_t>(i)];
     }
     for (std::size_t i = 0; i < kColumns; ++i) {
-      if (stage_.columns.isAutomatic(static_cast<int>(i))) continue;
-      const auto weight = static_cast<double>(stage_.columns.weight[i]);
+      if (stage_.columns().isAutomatic(static_cast<int>(i))) continue;
+      const auto weight = static_cast<double>(stage_.columns().weight[i]);
       wished[i] = static_cast<std::int32_t>(std::floor(weight * std::max(free, 1.0)));
     }
     if (!row.UnitVisible()) wished[1] += wished[2];
@@ -113,7 +113,7 @@ class Stack {
 }  // namespace
 
 void checkItemsLieWhereTheyBelong(Stage& stage) {
-  if (stage.panel()) Stack(stage).check();
+  if (stage.panel()) Column(stage).check();
 }
 
 void checkButtonsLieWhereTheyBelong(Stage& stage) {

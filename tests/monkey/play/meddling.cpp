@@ -1,39 +1,13 @@
 #include "meddling.h"
 
-#include <string_view>
-
 #include "actions.h"
+#include "deeds.h"
 #include "diag/QRNErrors.h"
 #include "runtime/errors.h"
 #include "stage.h"
 
 namespace qrn::monkey {
 namespace {
-
-// What a deed finds in front of it.
-struct Scene {
-  Stage& stage;
-  std::int32_t index;  // the event's
-  std::uint32_t number;
-
-  QRNDisplay& panel() const { return *stage.panel(); }
-  clsQRNCollection& items() const { return stage.items(); }
-  PanelItemPtr itsItem() const {
-    return index >= 1 && index <= items().Count() ? items().Item(Variant(index)) : nullptr;
-  }
-  std::shared_ptr<clsQRNParam> itsParameter() const {
-    return std::dynamic_pointer_cast<clsQRNParam>(itsItem());
-  }
-  std::int32_t anyPosition() const {
-    return static_cast<std::int32_t>(number % static_cast<std::uint32_t>(items().Count())) + 1;
-  }
-  qrnValueType anyType() const { return static_cast<qrnValueType>(number % 13); }
-};
-
-struct NamedDeed {
-  std::string_view name;
-  void (*act)(const Scene&);
-};
 
 void removeItsItem(const Scene& at) {
   if (at.itsItem()) at.items().Remove(Variant(at.index));
@@ -74,16 +48,22 @@ void focusAnItem(const Scene& at) {
 }
 void takeTheFocus(const Scene& at) { at.panel().input().setFocus(nullptr); }
 void layOut(const Scene& at) { at.panel().LayoutControls(at.number % 2 == 1); }
-void resize(const Scene& at) { at.panel().Move(0, 0, 100 + at.number % 400, 300); }
+void resize(const Scene& at) {
+  at.panel().Move(0, 0, 100 + at.number % 400, 300);
+  at.stage.pages().hostSets(at.panel(), Own::Place);
+}
 void addAButton(const Scene& at) { at.panel().Buttons().AddButton("", "Button"); }
 void removeTheButtons(const Scene& at) { at.panel().Buttons().RemoveAll(); }
 void removeAll(const Scene& at) { at.items().RemoveAll(); }
 void loseTheSurface(const Scene& at) { at.stage.hands().close(); }
 void showHelp(const Scene& at) { at.panel().DisplayToolTip(Variant(at.index), 3); }
 void removeHelp(const Scene& at) { at.panel().RemoveToolTip(at.number % 2 == 1); }
-void disableThePanel(const Scene& at) { at.panel().SetEnabled(false); }
+void disableThePanel(const Scene& at) {
+  at.stage.pages().hostSets(at.panel(), Own::Enabled);
+  at.panel().SetEnabled(false);
+}
 void raise(const Scene&) { RaiseError(kListenersError, "listener", kListenersText); }
-void closeThePanel(const Scene& at) { at.stage.close(); }
+void closeTheSurface(const Scene& at) { at.stage.close(); }
 
 constexpr NamedDeed kDeeds[] = {
     {"removes its item", removeItsItem},
@@ -109,13 +89,18 @@ constexpr NamedDeed kDeeds[] = {
     {"disables the panel", disableThePanel},
     {"lets the surface go", loseTheSurface},
     {"raises an error", raise},
-    {"closes the panel", closeThePanel},
+    {"closes the window", closeTheSurface},
 };
 
+const NamedDeed& deedOf(std::size_t kind) {
+  return kind < std::size(kDeeds) ? kDeeds[kind] : stackDeeds()[kind - std::size(kDeeds)];
+}
+
 void prepareDeed(Stage& stage, Numbers& numbers) {
-  const Deed deed{numbers.below(std::size(kDeeds)), static_cast<std::uint32_t>(numbers.below(6)),
-                  numbers.next() % 1000};
-  stage.note("the listener, after ", deed.events, " more events, ", kDeeds[deed.kind].name, " (", deed.number,
+  const std::size_t kinds =
+      std::size(kDeeds) + (stage.game() == Game::Stack ? stackDeeds().size() : std::size_t{0});
+  const Deed deed{numbers.below(kinds), static_cast<std::uint32_t>(numbers.below(6)), numbers.next() % 1000};
+  stage.note("the listener, after ", deed.events, " more events, ", deedOf(deed.kind).name, " (", deed.number,
              ")");
   stage.audience().prepare(deed);
 }
@@ -125,17 +110,19 @@ void listenToRow(Stage& stage, Numbers& numbers) {
   if (!parameter) return;
   const std::int32_t position = stage.items().GetIndexOf(Variant(parameter));
   stage.note("the listener listens to row(", position, ") too");
-  stage.audience().leansOver(parameter->Control(), position);
+  stage.audience().leansOver(*stage.panel(), parameter->Control(), position);
 }
 
 }  // namespace
 
-void doDeed(Stage& stage, const Deed& deed, std::int32_t index) {
-  stage.note("    in an event of ", index, " the listener ", kDeeds[deed.kind].name);
-  const Scene scene{stage, index, deed.number};
+void doDeed(Stage& stage, const Deed& deed, QRNDisplay* panel, std::int32_t index) {
+  const NamedDeed& what = deedOf(deed.kind);
+  const Scene scene{stage, panel ? panel : stage.panel(), index, deed.number};
+  if (!scene.its && what.needs == Needs::Panel) return;
+  stage.note("    in an event of ", index, " the listener ", what.name);
   // A listener keeps the errors that it meets to itself, and raises those that it means to raise.
-  if (kDeeds[deed.kind].act == raise) raise(scene);
-  ignoringErrors([&] { kDeeds[deed.kind].act(scene); });
+  if (what.act == raise) raise(scene);
+  ignoringErrors([&] { what.act(scene); });
 }
 
 void addMeddling(Actions& to) {

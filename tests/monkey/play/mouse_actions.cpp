@@ -52,7 +52,7 @@ void click(Stage& stage, Numbers& numbers) {
   const auto button = anyMouseButton(numbers);
   stage.note("user.clicksAt(", shown(at), ", ", static_cast<int>(button), ")");
   stage.hands().press(at, button);
-  if (stage.panel()) stage.hands().release(at, button);
+  if (stage.surface()) stage.hands().release(at, button);
 }
 
 void press(Stage& stage, Numbers& numbers) {
@@ -79,8 +79,8 @@ void doubleClick(Stage& stage, Numbers& numbers) {
   const Point at = somewhere(stage, numbers);
   stage.note("user.doubleClicksAt(", shown(at), ")");
   stage.hands().press(at, host::MouseButton::Left);
-  if (stage.panel()) stage.hands().release(at, host::MouseButton::Left);
-  if (stage.panel()) stage.hands().doubleClick(at);
+  if (stage.surface()) stage.hands().release(at, host::MouseButton::Left);
+  if (stage.surface()) stage.hands().doubleClick(at);
 }
 
 void turnWheel(Stage& stage, Numbers& numbers) {
@@ -95,7 +95,7 @@ void scroll(Stage& stage, Numbers& numbers) {
   const auto room = static_cast<std::size_t>(stage.panel()->sbrVertical().Max()) + 1;
   const auto value = static_cast<std::int32_t>(numbers.below(room));
   stage.note("user.scrollsTo(panel.sbrVertical(), ", value, ")");
-  stage.hands().scroll(value);
+  stage.hands().scroll(stage.panel()->sbrVertical(), value);
 }
 
 void openMenu(Stage& stage, Numbers& numbers) {
@@ -105,7 +105,7 @@ void openMenu(Stage& stage, Numbers& numbers) {
   stage.note("user right-clicks at ", shown(at), " and chooses ", none ? "nothing" : std::to_string(entry));
   stage.hands().willChoose(none ? std::nullopt : std::optional<int>(entry));
   stage.hands().press(at, host::MouseButton::Right);
-  if (stage.panel()) stage.hands().release(at, host::MouseButton::Right);
+  if (stage.surface()) stage.hands().release(at, host::MouseButton::Right);
 }
 
 }  // namespace

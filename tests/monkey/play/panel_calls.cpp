@@ -16,23 +16,29 @@ void openPanel(Stage& stage, Numbers& numbers) {
   const Size size = anySize(numbers);
   const bool realised = !numbers.oneIn(5);
   const std::size_t rows = numbers.below(16);
-  stage.note("a new panel of ", size.width, " by ", size.height, realised ? ", realised" : ", not realised",
-             ", with a row of each of the types 0 to ", rows, " - 1");
+  stage.note("a new ", stage.stack() ? "stack" : "panel", " of ", size.width, " by ", size.height,
+             realised ? ", realised" : ", not realised", ", with a row of each of the types 0 to ", rows,
+             " - 1");
   stage.open(size, realised);
+  if (stage.stack()) {
+    stage.pages().willFill(static_cast<std::int32_t>(rows));
+    stage.stack()->AddPage("", "First", false);
+    return;
+  }
   for (std::size_t i = 0; i < rows; ++i) stage.items().AddParameter("", static_cast<qrnValueType>(i));
   stage.panel()->LayoutControls(false);
 }
 
 void closePanel(Stage& stage, Numbers&) {
-  stage.note("the panel is destroyed");
+  stage.note(stage.stack() ? "the stack" : "the panel", " is destroyed");
   stage.close();
   const std::string left = stage.hands().leftBehind();
-  if (!left.empty()) stage.complain("a panel leaves nothing behind", left);
+  if (!left.empty()) stage.complain("what goes leaves nothing behind", left);
 }
 
 void realise(Stage& stage, Numbers&) {
-  stage.note("the panel gets a surface");
-  stage.hands().show(*stage.panel());
+  stage.note("the window gets a surface");
+  stage.hands().show(*stage.surface());
 }
 
 void loseSurface(Stage& stage, Numbers&) {
@@ -59,26 +65,34 @@ void setLength(Stage& stage, Numbers& numbers) {
   const auto& [name, set] = numbers.oneOf(lengths);
   const std::int32_t length = anyLength(numbers);
   stage.note(name, "(", length, ")");
+  // How large a dialog is at least follows from it.
+  if (set == &QRNDisplay::SetMenuItemHeight) stage.pages().hostSets(*stage.panel(), Own::Place);
   (stage.panel()->*set)(length);
 }
 
 void setFlag(Stage& stage, Numbers& numbers) {
   using Set = void (*)(QRNDisplay&, bool);
-  static const std::pair<const char*, Set> flags[] = {
-      {"SetMaximized", [](QRNDisplay& one, bool on) { one.SetMaximized(on); }},
-      {"SetActive", [](QRNDisplay& one, bool on) { one.SetActive(on); }},
+  struct Flag {
+    const char* name;
+    Set set;
+    std::optional<Own> own = {};
+  };
+  static const Flag flags[] = {
+      {"SetMaximized", [](QRNDisplay& one, bool on) { one.SetMaximized(on); }, Own::Place},
+      {"SetActive", [](QRNDisplay& one, bool on) { one.SetActive(on); }, Own::Active},
       {"SetIconCloseHidden", [](QRNDisplay& one, bool on) { one.SetIconCloseHidden(on); }},
       {"SetIconMaxRstHidden", [](QRNDisplay& one, bool on) { one.SetIconMaxRstHidden(on); }},
-      {"SetEnabled", [](QRNDisplay& one, bool on) { one.SetEnabled(on); }},
-      {"SetEnabled", [](QRNDisplay& one, bool) { one.SetEnabled(true); }},
+      {"SetEnabled", [](QRNDisplay& one, bool on) { one.SetEnabled(on); }, Own::Enabled},
+      {"SetEnabled", [](QRNDisplay& one, bool) { one.SetEnabled(true); }, Own::Enabled},
       {"SetRedraw", [](QRNDisplay& one, bool on) { one.SetRedraw(on); }},
       {"SetVisible", [](QRNDisplay& one, bool on) { one.SetVisible(on); }},
       {"SetVisible", [](QRNDisplay& one, bool) { one.SetVisible(true); }},
       {"SetTallContent", [](QRNDisplay& one, bool on) { one.SetTallContent(on); }}};
-  const auto& [name, set] = numbers.oneOf(flags);
+  const Flag& flag = numbers.oneOf(flags);
   const bool on = anyFlag(numbers);
-  stage.note(name, "(", shown(on), ")");
-  set(*stage.panel(), on);
+  stage.note(flag.name, "(", shown(on), ")");
+  if (flag.own) stage.pages().hostSets(*stage.panel(), *flag.own);
+  flag.set(*stage.panel(), on);
 }
 
 void setTitle(Stage& stage, Numbers& numbers) {
@@ -87,10 +101,20 @@ void setTitle(Stage& stage, Numbers& numbers) {
   const auto style = static_cast<qrnTitleStyle>(numbers.below(3));
   switch (numbers.below(6)) {
     case 0: stage.note("SetTitle(", quoted(text), ")"), panel.SetTitle(text); break;
-    case 1: stage.note("SetTitleStyle(", style, ")"), panel.SetTitleStyle(style); break;
+    case 1:
+      stage.note("SetTitleStyle(", style, ")");
+      // A page becomes a dialog by it, or none any more.
+      stage.pages().hostSetsAll(Own::Enabled);
+      stage.pages().hostSets(panel, Own::Place);
+      panel.SetTitleStyle(style);
+      break;
     case 2: stage.note("SetCloseButtonToolTip(…)"), panel.SetCloseButtonToolTip(text); break;
     case 3: stage.note("SetMaxButtonToolTip(…)"), panel.SetMaxButtonToolTip(text); break;
-    case 4: stage.note("SetFont(…)"), panel.SetFont(anyFont(numbers)); break;
+    case 4:
+      stage.note("SetFont(…)");
+      stage.pages().hostSets(panel, Own::Place);
+      panel.SetFont(anyFont(numbers));
+      break;
     default: {
       const auto edge = static_cast<qrnEdgeType>(numbers.below(5));
       stage.note("SetBorderStyle(", edge, ")"), panel.SetBorderStyle(edge);

@@ -12,17 +12,20 @@
 namespace qrn::monkey {
 namespace {
 
-constexpr Size kFirstPanel{400, 300};
+constexpr Size kFirstSize{400, 300};
 
 // A host may be told of its mistakes. A user makes none that anybody has to hear of; only what a listener
 // raised on purpose comes out there.
 void makeStep(Stage& stage, const Step& step) {
-  const Action& action = actions()[step.action % actions().size()];
+  const Actions& all = actions(stage.game());
+  const Action& action = all[step.action % all.size()];
+  if (action.needs == Needs::Panel && !stage.panel()) return;
   Numbers numbers(step);
   try {
     action.make(stage, numbers);
   } catch (const RunTimeError& error) {
     stage.note("    raised ", error.number(), " (", error.source(), "): ", error.description());
+    stage.errorCame();
     if (action.actor == Actor::User && error.number() != kListenersError)
       stage.complain("what a user does raises no error",
                      std::string(action.name) + ": " + error.source() + ": " + error.description());
@@ -36,11 +39,12 @@ void makeStep(Stage& stage, const Step& step) {
 
 }  // namespace
 
-std::optional<Failure> play(const MakeHands& makeHands, const Steps& steps, const Stage::Notes& notes) {
+std::optional<Failure> play(const MakeHands& makeHands, Game game, const Steps& steps,
+                            const Stage::Notes& notes) {
   const auto hands = makeHands();
-  Stage stage(*hands, notes);
+  Stage stage(*hands, game, notes);
   for (std::size_t i = 0; i < steps.size(); ++i) {
-    if (!stage.panel()) stage.open(kFirstPanel, true);
+    if (!stage.surface()) stage.open(kFirstSize, true);
     beforeStep(stage);
     makeStep(stage, steps[i]);
     checkRules(stage);
@@ -49,21 +53,23 @@ std::optional<Failure> play(const MakeHands& makeHands, const Steps& steps, cons
   return std::nullopt;
 }
 
-std::string playSeed(const MakeHands& makeHands, std::uint64_t seed, std::size_t count) {
-  Steps steps = randomSteps(seed, count);
-  const auto failure = play(makeHands, steps);
+std::string playSeed(const MakeHands& makeHands, Game game, std::uint64_t seed, std::size_t count) {
+  Steps steps = randomSteps(game, seed, count);
+  const auto failure = play(makeHands, game, steps);
   if (!failure) return {};
   steps.resize(failure->step + 1);
   const std::string& rule = failure->complaint.rule;
   const Steps few = shrunk(steps, [&](const Steps& tried) {
-    const auto again = play(makeHands, tried);
+    const auto again = play(makeHands, game, tried);
     return again && again->complaint.rule == rule;
   });
   std::ostringstream report;
   report << "seed " << seed << ", step " << failure->step + 1 << ": broken: " << rule << "\n  "
          << failure->complaint.details << "\nof " << steps.size() << " steps these " << few.size()
-         << " are needed, on a panel of " << kFirstPanel.width << " by " << kFirstPanel.height << ":\n";
-  const auto last = play(makeHands, few, [&](const std::string& note) { report << "  " << note << "\n"; });
+         << " are needed, on a " << (game == Game::Stack ? "stack" : "panel") << " of " << kFirstSize.width
+         << " by " << kFirstSize.height << ":\n";
+  const auto last =
+      play(makeHands, game, few, [&](const std::string& note) { report << "  " << note << "\n"; });
   if (last) report << "  -> " << last->complaint.details << "\n";
   return report.str();
 }

@@ -17,12 +17,13 @@ struct Failure {
   Complaint complaint;
 };
 
-/// Makes the steps with fresh hands on a fresh platform, and stops at the first broken promise. With notes,
-/// each step is told before it is made.
-std::optional<Failure> play(const MakeHands& makeHands, const Steps& steps, const Stage::Notes& notes = {});
+/// Makes the steps of a game with fresh hands on a fresh platform, and stops at the first broken promise.
+/// With notes, each step is told before it is made.
+std::optional<Failure> play(const MakeHands& makeHands, Game game, const Steps& steps,
+                            const Stage::Notes& notes = {});
 
 /// Random steps of a seed. What breaks is cut down to the steps that are needed for it, and told with its
 /// seed; empty when nothing does.
-std::string playSeed(const MakeHands& makeHands, std::uint64_t seed, std::size_t count);
+std::string playSeed(const MakeHands& makeHands, Game game, std::uint64_t seed, std::size_t count);
 
 }  // namespace qrn::monkey

@@ -21,7 +21,8 @@ const host::Control* controlOf(const ButtonPtr& button) { return &button->Contro
 
 // Object, key and position select the same one, and its control is where the panel keeps it.
 template <class Collection>
-void checkCollection(Stage& stage, const Collection& all, const host::ContainerControl& container) {
+void checkCollection(Stage& stage, QRNDisplay& panel, const Collection& all,
+                     const host::ContainerControl& container) {
   const std::string rule = "object, key and position select the same";
   std::int32_t position = 0;
   for (const auto& one : all) {
@@ -31,7 +32,7 @@ void checkCollection(Stage& stage, const Collection& all, const host::ContainerC
     const bool same = all.Item(Variant(position)) == one && all.Item(key) == one &&
                       all.GetIndexOf(Variant(one)) == position && all.GetIndexOf(key) == position;
     if (!same) stage.complain(rule, control.Name() + " at " + text(position));
-    if (stage.panel()->ControlsCollection().find(control.Name()) != &control)
+    if (panel.ControlsCollection().find(control.Name()) != &control)
       stage.complain("a control bears the key of its item", control.Name() + " at " + text(position));
   }
   if (position != all.Count()) stage.complain(rule, text(position) + " of " + text(all.Count()));
@@ -41,25 +42,42 @@ void checkCollection(Stage& stage, const Collection& all, const host::ContainerC
         text(all.Count()) + " items, " + std::to_string(container.contained().size()) + " controls");
 }
 
-PanelItemPtr focusedItem(Stage& stage) {
-  for (const PanelItemPtr& item : stage.items()) {
+PanelItemPtr focusedItem(QRNDisplay& panel) {
+  if (!panel.hasFocus()) return nullptr;
+  for (const PanelItemPtr& item : panel.Items()) {
     if (controlOf(item)->hasFocus()) return item;
   }
   return nullptr;
 }
 
+PanelItemPtr focusedItem(Stage& stage) {
+  for (QRNDisplay* panel : stage.panels()) {
+    if (PanelItemPtr item = focusedItem(*panel)) return item;
+  }
+  return nullptr;
+}
+
 void checkFocus(Stage& stage) {
-  QRNDisplay& panel = *stage.panel();
-  const host::Control* focus = panel.input().focus();
-  for (const host::Control* one = focus; one && one != &panel; one = one->Container()) {
+  const host::Control* focus = stage.surface()->input().focus();
+  for (const host::Control* one = focus; one && one != stage.surface(); one = one->Container()) {
     if (!one->Visible())
       stage.complain("nothing hidden has the focus", focus->Name() + ", for " + one->Name() + " is hidden");
   }
-  const PanelItemPtr item = focusedItem(stage);
-  const std::int32_t expected = item ? stage.items().GetIndexOf(Variant(item)) : 0;
+}
+
+void checkActiveItem(Stage& stage, QRNDisplay& panel) {
+  const PanelItemPtr item = focusedItem(panel);
+  const std::int32_t expected = item ? panel.Items().GetIndexOf(Variant(item)) : 0;
   if (panel.GetActiveItem(false) != expected)
     stage.complain("the active item is the one with the focus",
                    text(panel.GetActiveItem(false)) + " instead of " + text(expected));
+}
+
+bool isThere(Stage& stage, const PanelItemPtr& item) {
+  for (QRNDisplay* panel : stage.panels()) {
+    if (ignoringErrors([&] { panel->Items().GetIndexOf(Variant(item)); })) return true;
+  }
+  return false;
 }
 
 // Unless a listener interfered, who loses the focus and who gets it is told.
@@ -70,8 +88,7 @@ void checkFocusEvents(Stage& stage) {
   if (now == before || audience.meddledInThisStep()) return;
   if (now && !audience.heardOfFocus(*now))
     stage.complain("an item that gets the focus says so", controlOf(now)->Name());
-  const bool stillThere = before && ignoringErrors([&] { stage.items().GetIndexOf(Variant(before)); });
-  if (stillThere && !audience.heardOfLostFocus(*before))
+  if (before && isThere(stage, before) && !audience.heardOfLostFocus(*before))
     stage.complain("an item that loses the focus says so", controlOf(before)->Name());
 }
 
@@ -87,8 +104,8 @@ void collectEditors(const host::ContainerControl& container, std::vector<const h
 // Only the focused editor is a native widget, and only on a panel that has a surface.
 void checkRealisedEditors(Stage& stage) {
   std::vector<const host::Control*> realised;
-  collectEditors(*stage.panel(), realised);
-  const host::Control* focus = stage.panel()->input().focus();
+  collectEditors(*stage.surface(), realised);
+  const host::Control* focus = stage.surface()->input().focus();
   for (const host::Control* one : realised) {
     if (one != focus)
       stage.complain("only the focused editor is realised",
@@ -96,8 +113,7 @@ void checkRealisedEditors(Stage& stage) {
   }
 }
 
-void checkScrolling(Stage& stage) {
-  QRNDisplay& panel = *stage.panel();
+void checkScrolling(Stage& stage, QRNDisplay& panel) {
   const host::VScrollBar& bar = panel.sbrVertical();
   if (bar.Value() < bar.Min() || bar.Value() > bar.Max())
     stage.complain("the scroll bar stays in its range", text(bar.Value()) + " of " + text(bar.Max()));
@@ -109,14 +125,14 @@ void checkScrolling(Stage& stage) {
 }  // namespace
 
 void beforeStep(Stage& stage) {
-  stage.audience().stepBegins();
-  stage.focusBefore = WeakRef<host::Control>(stage.panel()->input().focus());
+  stage.stepBegins();
+  stage.focusBefore = WeakRef<host::Control>(stage.surface()->input().focus());
   stage.itemBefore = focusedItem(stage);
 }
 
 void checkFocusIsOfUse(Stage& stage) {
-  if (!stage.panel() || stage.audience().meddledInThisStep()) return;
-  const host::Control* focus = stage.panel()->input().focus();
+  if (!stage.surface() || stage.audience().meddledInThisStep()) return;
+  const host::Control* focus = stage.surface()->input().focus();
   if (focus == stage.focusBefore.get()) return;
   for (const host::Control* one = focus; one; one = one->Container()) {
     if (!one->Enabled())
@@ -126,13 +142,17 @@ void checkFocusIsOfUse(Stage& stage) {
 }
 
 void checkRules(Stage& stage) {
-  if (!stage.panel()) return;
-  checkCollection(stage, stage.items(), stage.panel()->ControlsContainer());
-  checkCollection(stage, stage.panel()->Buttons(), stage.panel()->ButtonsContainer());
+  if (!stage.surface()) return;
+  for (QRNDisplay* panel : stage.panels()) {
+    checkCollection(stage, *panel, panel->Items(), panel->ControlsContainer());
+    checkCollection(stage, *panel, panel->Buttons(), panel->ButtonsContainer());
+    checkActiveItem(stage, *panel);
+    checkScrolling(stage, *panel);
+  }
   checkFocus(stage);
   checkFocusEvents(stage);
   checkRealisedEditors(stage);
-  checkScrolling(stage);
+  if (stage.stack()) checkStack(stage);
 }
 
 }  // namespace qrn::monkey

@@ -11,8 +11,12 @@ void beforeStep(Stage& stage);
 /// After every step.
 void checkRules(Stage& stage);
 
-/// Right after the focus was moved.
+/// Right after the focus was moved, and after the keyboard has moved it.
 void checkFocusIsOfUse(Stage& stage);
+void checkKeyboardStaysOnTop(Stage& stage);
+
+/// Those of a stack; checkRules asks them.
+void checkStack(Stage& stage);
 
 /// Right after a full layout that nobody interfered with.
 void checkItemsLieWhereTheyBelong(Stage& stage);

@@ -6,7 +6,7 @@
 
 namespace qrn::monkey {
 
-Stage::Stage(Hands& hands, Notes notes) : hands_(hands), notes_(std::move(notes)) {
+Stage::Stage(Hands& hands, Game game, Notes notes) : hands_(hands), game_(game), notes_(std::move(notes)) {
   registerControls();
   hands_.siteHeard = [this](std::string_view) { audience_.heardOfSite(); };
 }
@@ -15,17 +15,46 @@ Stage::~Stage() { hands_.siteHeard = nullptr; }
 
 void Stage::open(Size size, bool realised) {
   close();
-  columns = {};
-  panel_ = host::create<QRNDisplay>(hands_.site());
-  panel_->Move(0, 0, size.width, size.height);
-  audience_.sitsDown(*panel_);
-  if (realised) hands_.show(*panel_);
+  if (game_ == Game::Stack)
+    surface_ = host::create<QRNDisplayStack>(hands_.site());
+  else
+    surface_ = host::create<QRNDisplay>(hands_.site());
+  surface_->Move(0, 0, size.width, size.height);
+  if (game_ == Game::Stack)
+    pages_.open(*stack());
+  else
+    audience_.sitsDown(*panel());
+  if (realised) hands_.show(*surface_);
+}
+
+QRNDisplayStack* Stage::stack() {
+  return game_ == Game::Stack ? static_cast<QRNDisplayStack*>(surface_.get()) : nullptr;
+}
+
+QRNDisplay* Stage::panel() {
+  if (game_ == Game::Panel) return static_cast<QRNDisplay*>(surface_.get());
+  if (!surface_ || stack()->Count() == 0) return nullptr;
+  return page_ && page_->Container() ? page_.get() : &stack()->Pages(Variant(stack()->Count()));
+}
+
+std::vector<QRNDisplay*> Stage::panels() {
+  if (game_ == Game::Panel) return {panel()};
+  std::vector<QRNDisplay*> all;
+  for (std::int32_t k = 1; k <= stack()->Count(); ++k) all.push_back(&stack()->Pages(Variant(k)));
+  return all;
+}
+
+void Stage::stepBegins() {
+  errorCame_ = false;
+  audience_.stepBegins();
+  pages_.stepBegins();
 }
 
 void Stage::close() {
-  // Nobody finds the panel here any more while it goes.
-  const host::Owned<QRNDisplay> gone = std::move(panel_);
+  // Nobody finds it here any more while it goes.
+  const host::Owned<host::UserControl> gone = std::move(surface_);
   audience_.standsUp();
+  pages_.close();
 }
 
 template <class Item>
@@ -44,7 +73,7 @@ std::shared_ptr<clsQRNParam> Stage::anyParameter(Numbers& numbers) { return any<
 std::shared_ptr<clsQRNAction> Stage::anyAction(Numbers& numbers) { return any<clsQRNAction>(numbers); }
 
 ButtonPtr Stage::anyButton(Numbers& numbers) {
-  clsQRNButtons& buttons = panel_->Buttons();
+  clsQRNButtons& buttons = panel()->Buttons();
   if (buttons.Count() == 0) return nullptr;
   const auto position = static_cast<std::int32_t>(numbers.below(static_cast<std::size_t>(buttons.Count())));
   return buttons.Item(Variant(position + 1));

@@ -6,10 +6,11 @@
 
 namespace qrn::monkey {
 
-Steps randomSteps(std::uint64_t seed, std::size_t count) {
+Steps randomSteps(Game game, std::uint64_t seed, std::size_t count) {
   // Action numbers with as many places as the action has weight.
   std::vector<std::uint16_t> lots;
-  for (std::uint16_t i = 0; i < actions().size(); ++i) lots.insert(lots.end(), actions()[i].weight, i);
+  for (std::uint16_t i = 0; i < actions(game).size(); ++i)
+    lots.insert(lots.end(), actions(game)[i].weight, i);
 
   std::mt19937_64 random(seed);
   Steps steps(count);

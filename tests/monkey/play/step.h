@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "game.h"
+
 namespace qrn::monkey {
 
 /// One thing that the monkey does: which of its actions, and numbers that the action reads against whatever
@@ -45,6 +47,6 @@ class Numbers {
 };
 
 /// The same seed makes the same steps, on every machine.
-Steps randomSteps(std::uint64_t seed, std::size_t count);
+Steps randomSteps(Game game, std::uint64_t seed, std::size_t count);
 
 }  // namespace qrn::monkey
