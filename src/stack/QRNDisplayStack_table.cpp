@@ -24,8 +24,12 @@ host::ClassTable QRNDisplayStackTable::make() {
       field<&C::HideDisabledControls, &C::SetHideDisabledControls, &C::hideDisabledControls_>(
           "HideDisabledControls", 5, true),
       setter<&host::Control::Enabled, &C::SetEnabled>("Enabled", 8, true),
-      property<&C::Font, &C::SetFont>("Font", 9).notifies(Notify::Never),
-      property<&C::BackColor, &C::SetBackColor>("BackColor", 10).notifies(Notify::Never),
+      property<&C::Font, &C::SetFont>("Font", 9)
+          .startsAs(host::Default::ambientFont())
+          .notifies(Notify::Never),
+      property<&C::BackColor, &C::SetBackColor>("BackColor", 10)
+          .startsAs(host::Default::ambientBackColor())
+          .notifies(Notify::Never),
       property<&C::ExtraData, &C::SetExtraData>("ExtraData", 11).notifies(Notify::Never),
   };
   table.methods = {"Pages", "ActivatePage", "AddPage"};

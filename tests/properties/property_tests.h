@@ -10,11 +10,12 @@
 
 #include "buttons/QRNMenuItem.h"
 #include "display/QRNDisplay.h"
-#include "library/library.h"
 #include "host/class_table.h"
 #include "images/built_in_pictures.h"
+#include "library/library.h"
 #include "row/QRNEdit.h"
 #include "runtime/errors.h"
+#include "stack/QRNDisplayStack.h"
 
 // What holds for every property of every class, from what the class's table says of it. The tests themselves
 // are in property_tests.inc; the suite of each platform includes them once.
@@ -56,6 +57,10 @@ struct Class {
   Keys shortened;
   /// The keys of a new instance: what it has does not come from the bag's defaults.
   Keys ofNew;
+  /// How many of the fields move something at least, when they are written.
+  int moving = 4;
+  /// Gives a new instance what its properties are about.
+  void (*complete)(UserControl&) = nullptr;
 };
 
 using MakePlatform = std::unique_ptr<host::Platform> (*)();
@@ -81,11 +86,9 @@ class Properties : public testing::TestWithParam<Case> {
     return control;
   }
 
-  // A new instance that has everything its properties are about: a row has no editor before it has a type.
   host::Owned<UserControl> createComplete() {
     auto control = create();
-    if (const Property* one = control->classTable().find("ValueType"))
-      one->write(*control, one->readDefault.of(*control));
+    if (type().complete) type().complete(*control);
     realiseIfWished(*control);
     site.changedKeys.clear();
     return control;
