@@ -2,6 +2,7 @@
 #include "contract/contract_tests.inc"
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/user.h"
+#include "support/headless_window.h"
 
 namespace qrn::contract {
 namespace {
@@ -11,27 +12,17 @@ class HeadlessContract final : public ContractPlatform {
   host::Platform& platform() override { return machine_; }
 
   void show(host::UserControl& surface) override {
-    surface_ = WeakRef<host::Control>(&surface);
     user_ = std::make_unique<headless::User>(machine_, surface);
-    surface.realise();
+    window_.show(surface);
     realiseScrollBars(surface);
     surface.invalidate();
     paintPending();
   }
 
-  void close() override {
-    if (!surface_) return;
-    auto& surface = static_cast<host::UserControl&>(*surface_);
-    surface.input().surfaceLostFocus();
-    dropPeers(surface);
-  }
+  void close() override { window_.close(); }
 
   void paintPending() override {
-    auto* peer = surface_ ? static_cast<headless::HeadlessPeer*>(surface_->peer()) : nullptr;
-    if (!peer || std::exchange(peer->invalidated, {}).empty()) return;
-    auto& surface = static_cast<host::UserControl&>(*surface_);
-    headless::RecordingSurface target(machine_, surface.pixelSize());
-    surface.paintTree(target);
+    if (window_.takeInvalidated()) window_.paint();
   }
 
   void click(host::Control& control) override { user_->clicks(control); }
@@ -61,16 +52,9 @@ class HeadlessContract final : public ContractPlatform {
       if (auto* inner = dynamic_cast<host::ContainerControl*>(control)) realiseScrollBars(*inner);
     }
   }
-  static void dropPeers(host::ContainerControl& container) {
-    for (host::Control* control : container.contained()) {
-      control->dropPeer();
-      if (auto* inner = dynamic_cast<host::ContainerControl*>(control)) dropPeers(*inner);
-    }
-    container.dropPeer();
-  }
 
   headless::HeadlessPlatform machine_;
-  WeakRef<host::Control> surface_;
+  test::HeadlessWindow window_{machine_};
   std::unique_ptr<headless::User> user_;
 };
 

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "platform/headless/headless_platform.h"
-#include "platform/headless/recording_surface.h"
 #include "platform/headless/user.h"
 #include "play/hands.h"
+#include "support/headless_window.h"
 
 namespace qrn::monkey {
 
@@ -30,27 +30,17 @@ class HeadlessHands : public Hands {
   host::Site& site() override { return site_; }
 
   void show(host::UserControl& surface) override {
-    if (surface_.get() == &surface && surface.peer()) return;
-    surface_ = WeakRef<host::Control>(&surface);
+    if (window_.surface() == &surface && window_.isOpen()) return;
     user_ = std::make_unique<headless::User>(machine_, surface);
-    surface.realise();
+    window_.show(surface);
   }
-
-  void close() override {
-    if (!surface_ || !surface_->peer()) return;
-    surface().input().surfaceLostFocus();
-    if (surface_) dropPeers(surface());
-  }
-
+  void close() override { window_.close(); }
   void resize(Size size) override {
-    if (surface_) surface_->Move(0, 0, size.width, size.height);
+    if (window_.surface()) surface().Move(0, 0, size.width, size.height);
   }
-
   void paint() override {
-    if (!surface_ || !surface_->peer()) return;
-    static_cast<headless::HeadlessPeer&>(*surface_->peer()).invalidated.clear();
-    headless::RecordingSurface paper(machine_, surface_->pixelSize());
-    surface().paintTree(paper);
+    window_.takeInvalidated();
+    window_.paint();
   }
 
   void press(Point at, host::MouseButton button) override {
@@ -98,21 +88,13 @@ class HeadlessHands : public Hands {
 
  protected:
   /// What was shown last, and whether a user still can see it.
-  host::UserControl& surface() { return static_cast<host::UserControl&>(*surface_); }
-  bool shown() const { return surface_ && surface_->peer() && surface_->Visible(); }
+  host::UserControl& surface() { return *window_.surface(); }
+  bool shown() const { return window_.isOpen() && window_.surface()->Visible(); }
 
  private:
-  static void dropPeers(host::ContainerControl& container) {
-    for (host::Control* control : container.contained()) {
-      control->dropPeer();
-      if (auto* inner = dynamic_cast<host::ContainerControl*>(control)) dropPeers(*inner);
-    }
-    container.dropPeer();
-  }
-
   headless::HeadlessPlatform machine_;
   ListeningSite site_{machine_, *this};
-  WeakRef<host::Control> surface_;
+  test::HeadlessWindow window_{machine_};
   std::unique_ptr<headless::User> user_;
 };
 
