@@ -39,6 +39,7 @@ struct AccessibleStates {
   bool checked = false;
   bool selectable = false;
   bool selected = false;
+  bool modal = false;  // nothing beside it can be used
 
   friend bool operator==(const AccessibleStates&, const AccessibleStates&) = default;
 };

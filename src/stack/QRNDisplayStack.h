@@ -104,7 +104,13 @@ class QRNDisplayStack final : public host::UserControl {
   host::Control* nextTabStop(host::Control* from, bool forward) override;
   const host::ContainerControl& mnemonicArea() const override;
 
+  /// Tools see the pages, the lowest one first.
+  std::int32_t accessibleCount() const override { return Count(); }
+  host::AccessibleNode accessibleChild(std::int32_t index) override;
+  void tellFactsOf(const host::Control& inside, host::AccessibleFacts& facts) const override;
+
  protected:
+  void tellFacts(host::AccessibleFacts& facts) const override;
   void initialize() override;
   void resize() override { layOutAll(); }
   void show() override;

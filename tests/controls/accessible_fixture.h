@@ -20,6 +20,7 @@ inline void PrintTo(const AccessibleStates& states, std::ostream* out) {
   say(states.checked, "checked");
   say(states.selectable, "selectable");
   say(states.selected, "selected");
+  say(states.modal, "modal");
 }
 
 }  // namespace qrn::host

@@ -57,6 +57,7 @@ QAccessible::State toQt(const AccessibleFacts& facts) {
   state.checked = from.checked;
   state.selectable = from.selectable;
   state.selected = from.selected;
+  state.modal = from.modal;
   state.editable = facts.role == AccessibleRole::Text && !from.readOnly;
   state.selectableText = facts.role == AccessibleRole::Text;
   state.hasPopup = state.expandable = facts.role == AccessibleRole::DropList;
