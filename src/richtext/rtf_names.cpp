@@ -39,11 +39,12 @@ const Names<std::optional<Destination>>& destinations() {
 
 const Names<char32_t>& characters() {
   static const Names<char32_t> names = {
-      {"tab", U'\t'},        {"cell", U'\t'},     {"line", kLineBreak}, {"emdash", 0x2014},
-      {"endash", 0x2013},    {"emspace", 0x2003}, {"enspace", 0x2002},  {"qmspace", 0x2005},
-      {"bullet", 0x2022},    {"lquote", 0x2018},  {"rquote", 0x2019},   {"ldblquote", 0x201C},
-      {"rdblquote", 0x201D}, {"zwj", 0x200D},     {"zwnj", 0x200C},     {"zwbo", 0x200B},
-      {"zwnbo", 0x2060},     {"ltrmark", 0x200E}, {"rtlmark", 0x200F},
+      {"tab", U'\t'},         {"cell", U'\t'},       {"line", kLineBreak},  {"page", kLineBreak},
+      {"column", kLineBreak}, {"emdash", 0x2014},    {"endash", 0x2013},    {"emspace", 0x2003},
+      {"enspace", 0x2002},    {"qmspace", 0x2005},   {"bullet", 0x2022},    {"lquote", 0x2018},
+      {"rquote", 0x2019},     {"ldblquote", 0x201C}, {"rdblquote", 0x201D}, {"zwj", 0x200D},
+      {"zwnj", 0x200C},       {"zwbo", 0x200B},      {"zwnbo", 0x2060},     {"ltrmark", 0x200E},
+      {"rtlmark", 0x200F},
   };
   return names;
 }

@@ -14,6 +14,10 @@ namespace {
 
 using Kind = RtfToken::Kind;
 
+constexpr char32_t kNoCharacter = 0xFFFD;
+
+bool isUnicode(const RtfToken& token) { return token.kind == Kind::Word && token.word == "u"; }
+
 /// Goes through the tokens once; groups are kept on a stack of its own.
 class RtfReader {
  public:
@@ -34,6 +38,7 @@ class RtfReader {
   void takeCharacter(const RtfToken& token);
   void takeByte(unsigned char byte);
   void takeUnicode(std::int32_t number);
+  void putLoneHalf();
   void put(char32_t c);
   void endParagraph();
   const CharFormat& format();
@@ -51,7 +56,7 @@ class RtfReader {
   bool starred_ = false;              // the next word names a destination that may be unknown
   bool bulletFound_ = false;          // in the group that describes one
   std::int32_t fallback_ = 0;         // tokens to leave out behind a \u
-  char32_t highSurrogate_ = 0;        // of a pair whose other half is still to come
+  char32_t highSurrogate_ = 0;        // of a pair whose other half has to come next
   std::optional<CharFormat> format_;  // of state_, while it is known
 
   Paragraph paragraph_;
@@ -61,14 +66,19 @@ class RtfReader {
 Document RtfReader::read() {
   while (true) {
     const RtfToken token = tokens_.next();
+    if (token.kind == Kind::End) break;
+    const bool group = token.kind == Kind::GroupStart || token.kind == Kind::GroupEnd;
+    if (fallback_ > 0 && !group) {
+      --fallback_;
+      continue;
+    }
+    if (!isUnicode(token)) putLoneHalf();
     // The last paragraph takes its format from the state before the document's own group is closed.
-    if (token.kind == Kind::End || (token.kind == Kind::GroupEnd && depth_ == 1)) break;
+    if (token.kind == Kind::GroupEnd && depth_ == 1) break;
     if (token.kind == Kind::GroupStart)
       openGroup();
     else if (token.kind == Kind::GroupEnd)
       closeGroup();
-    else if (fallback_ > 0)
-      --fallback_;
     else if (state_.destination != Destination::Skipped)
       take(token);
   }
@@ -95,6 +105,7 @@ void RtfReader::closeGroup() {
 }
 
 void RtfReader::take(const RtfToken& token) {
+  if (token.kind != Kind::Word) starred_ = false;
   switch (token.kind) {
     case Kind::Word: return takeWord(token);
     case Kind::Symbol: return takeSymbol(token.byte);
@@ -111,7 +122,7 @@ void RtfReader::takeWord(const RtfToken& token) {
     return;
   }
   const std::int32_t number = token.number.value_or(0);
-  if (token.word == "u") return takeUnicode(number);
+  if (isUnicode(token)) return takeUnicode(number);
   switch (state_.destination) {
     case Destination::Fonts: return fonts_.word(token.word, number);
     case Destination::Colors: return colors_.word(token.word, number);
@@ -125,7 +136,8 @@ void RtfReader::takeText(const RtfToken& token) {
   if (const char32_t named = characterNamed(token.word); named != 0) return put(named);
   if (endsParagraph(token.word)) return endParagraph();
   if (const int page = codePageNamed(token.word); page != 0) codePage_ = page;
-  if (token.word == "ansicpg") codePage_ = token.number.value_or(kWesternPage);
+  // The number 0 stands for the page of whatever system the text is read on.
+  if (token.word == "ansicpg") codePage_ = token.number.value_or(0) != 0 ? *token.number : kWesternPage;
   if (token.word == "deff") defaultFont_ = token.number.value_or(0);
   state_.apply(token.word, token.number);
   format_.reset();
@@ -167,13 +179,18 @@ void RtfReader::takeByte(unsigned char byte) {
 void RtfReader::takeUnicode(std::int32_t number) {
   fallback_ = state_.unicodeFallback;
   const auto c = static_cast<char32_t>(number < 0 && number >= -0x8000 ? number + 0x10000 : number);
-  const char32_t high = std::exchange(highSurrogate_, 0);
+  const bool low = c >= 0xDC00 && c < 0xE000;
+  if (low && highSurrogate_ != 0)
+    return put(0x10000 + ((std::exchange(highSurrogate_, 0) - 0xD800) << 10) + (c - 0xDC00));
+  putLoneHalf();
   if (c >= 0xD800 && c < 0xDC00)
     highSurrogate_ = c;
-  else if (c >= 0xDC00 && c < 0xE000)
-    put(high != 0 ? 0x10000 + ((high - 0xD800) << 10) + (c - 0xDC00) : 0xFFFD);
   else
-    put(c <= 0x10FFFF ? c : 0xFFFD);
+    put(c <= 0x10FFFF && !low ? c : kNoCharacter);
+}
+
+void RtfReader::putLoneHalf() {
+  if (std::exchange(highSurrogate_, 0) != 0) put(kNoCharacter);
 }
 
 void RtfReader::put(char32_t c) {

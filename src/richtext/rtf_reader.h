@@ -14,7 +14,7 @@ bool isRtf(std::string_view text);
 /// is left out, in time linear in the text; nothing is thrown.
 ///
 /// Read are fonts, sizes, bold, italic, underlined, struck out, raised and lowered characters and their
-/// colours; alignment, indents, tab stops and bullets of paragraphs; line breaks, tabs and the named
+/// colours; alignment, indents, tab stops and bullets of paragraphs; line and page breaks, tabs and the named
 /// characters; and characters by their Unicode number or by a byte of the code page of the font or the
 /// document (see code_page.h). Cells of a table come as text with tabs, its rows as paragraphs. Hidden text
 /// and everything that is no text of the document, such as pictures, headers or footnotes, is skipped.

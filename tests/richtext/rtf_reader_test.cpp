@@ -51,6 +51,10 @@ TEST(ReadingRtf, KnowsBreaksTabsAndNamedCharacters) {
   EXPECT_EQ(textOf("\\{\\}\\\\a\\~b\\_c\\-d"), "{}\\a\u00a0b\u2011cd");
 }
 
+TEST(ReadingRtf, TurnsAPageOrColumnBreakIntoALineBreak) {
+  EXPECT_EQ(textOf(" a\\page b\\column c"), "a\vb\vc");
+}
+
 TEST(ReadingRtf, TurnsATableIntoLinesWithTabs) {
   EXPECT_EQ(textOf("\\trowd\\intbl a\\cell b\\cell\\row\\pard c"), "a\tb\t\r\nc");
 }
@@ -60,6 +64,7 @@ TEST(ReadingRtf, ReadsCharactersOfTheDocumentsCodePage) {
   EXPECT_EQ(textOf("\\ansicpg1251\\'e4"), "д");
   EXPECT_EQ(textOf("\\pca\\'84"), "ä");
   EXPECT_EQ(textOf("\\ansicpg932\\'e4A"), "\uFFFDA");
+  EXPECT_EQ(textOf("\\ansicpg0\\'e4"), "ä") << "none in particular";
 }
 
 TEST(ReadingRtf, ReadsCharactersOfTheFontsCodePage) {
@@ -81,6 +86,20 @@ TEST(ReadingRtf, ReadsUnicodeNumbersAndSkipsWhatStandsForThem) {
   EXPECT_EQ(textOf("\\uc5\\u8364 a{b}c"), "€bc") << "not over the edge of a group";
   EXPECT_EQ(textOf("\\u-8704?x"), "\uFFFDx") << "half a pair";
   EXPECT_EQ(textOf("\\u99999999?x"), "\uFFFDx");
+}
+
+TEST(ReadingRtf, ReadsAPairOfHalvesOnlyWhereOneFollowsTheOther) {
+  EXPECT_EQ(textOf("\\u-10179?abc\\u-8704?"), "\uFFFDabc\uFFFD");
+  EXPECT_EQ(textOf("\\u-10179?\\par\\u-8704?"), "\uFFFD\r\n\uFFFD");
+  EXPECT_EQ(textOf("{\\u-10179?}\\u-8704?"), "\uFFFD\uFFFD");
+  EXPECT_EQ(textOf("\\u-10179?{\\u-8704?}"), "\uFFFD\uFFFD");
+  EXPECT_EQ(textOf("\\u-10179?{\\v a}\\u-8704?"), "\uFFFD\uFFFD");
+  EXPECT_EQ(textOf("\\u-10179?\\v0\\u-8704?"), "\uFFFD\uFFFD");
+  EXPECT_EQ(textOf("\\u-10179?\\u-10179?\\u-8704?"), "\uFFFD\U0001F600");
+  EXPECT_EQ(textOf("\\u-10179?\\u65?"), "\uFFFDA");
+  EXPECT_EQ(textOf("\\u-10179?"), "\uFFFD");
+  EXPECT_EQ(textOf("{\\v\\u-10179?}a"), "a") << "hidden, as any other character";
+  EXPECT_EQ(textOf("\\uc2\\u-10179\\'3f\\'3f\\u-8704 ??"), "\U0001F600");
 }
 
 TEST(ReadingRtf, KnowsTheFormatsOfCharacters) {
@@ -184,6 +203,12 @@ TEST(ReadingRtf, SkipsWhatIsNoText) {
         "{\\stylesheet no{\\s1 no;}}", "{\\*\\bkmkstart no}"}) {
     EXPECT_EQ(textOf(" a" + std::string(hidden) + "b"), "ab") << hidden;
   }
+}
+
+TEST(ReadingRtf, SkipsNothingBehindAStarThatMarksNoWord) {
+  EXPECT_EQ(textOf("\\* a\\b c"), " ac");
+  EXPECT_EQ(textOf("\\*\\'e4\\b c"), "äc");
+  EXPECT_EQ(textOf("\\*\\~\\b c"), "\u00a0c");
 }
 
 TEST(ReadingRtf, ShowsTheResultOfAField) {
