@@ -1,6 +1,8 @@
 // How much work hostile patterns and texts of 100,000 characters can make.
 #include <gtest/gtest.h>
 
+#include "host/rich_text_layout.h"
+#include "platform/headless/headless_platform.h"
 #include "richtext/rtf_reader.h"
 #include "richtext/rtf_writer.h"
 #include "runtime/conversions.h"
@@ -178,6 +180,24 @@ TEST(Work, OfReadingAMegabyteOfRichTextIsBounded) {
   for (const char* piece : {"{\\b a}", "\\par", "{", "\\f0a\\f1b", "a", "\\\n"}) {
     const std::string rtf = "{\\rtf1" + repeated(piece, 1000000);
     EXPECT_LE(stepsOf([&] { richtext::readRtf(rtf); }), kSteps * rtf.size()) << piece;
+  }
+}
+
+TEST(Work, OfFillingLinesGrowsNoFasterThanTheText) {
+  headless::FixedMetrics metrics;
+  const auto fixed = [&](const richtext::CharFormat&) -> host::FontMetrics& { return metrics; };
+  for (const char* piece :
+       {"a", "a ", " ", "\\par ", "\\line ", "\\tab ", "a\\tab", "{\\b a}b", "{\\b a} ", "{\\up9 a}",
+        "\\tx9\\tab ", "{\\*\\pn\\pnlvlblt}a\\par ", "\\'e4", "words of a text "}) {
+    // A line may be as long as the text, hold a few words, or be too narrow for a character.
+    for (const double width : {1e9, 200.0, 1.0, 0.0}) {
+      const auto fill = [&](std::string_view end) {
+        const richtext::Document document = *richtext::readRtf("{\\rtf1 " + std::string(end));
+        const host::RichTextLayout layout(document, width, fixed);
+        layout.linesBetween(layout.height() / 2, layout.height() / 2 + 100);
+      };
+      EXPECT_EQ(brokenGrowth(piece, kLength, fill), "") << piece << " in a width of " << width;
+    }
   }
 }
 
