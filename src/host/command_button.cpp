@@ -60,7 +60,7 @@ std::intptr_t CommandButton::windowMessage(const Message& message) {
 }
 
 CommandButton* buttonOfMnemonic(const ContainerControl& container, std::int16_t letter) {
-  for (Control* control : container.mnemonicArea().contained()) {
+  for (Control* control : container.keyboardArea().contained()) {
     if (!control->Visible() || !control->Enabled()) continue;
     if (auto* button = dynamic_cast<CommandButton*>(control); button && button->mnemonic() == letter)
       return button;

@@ -13,8 +13,9 @@ class ContainerControl : public Control {
 
   /// In painting order, the last one on top.
   const std::vector<Control*>& contained() const { return contained_; }
-  /// Where the letters of buttons are looked for; what shows one of its children at a time answers that one.
-  virtual const ContainerControl& mnemonicArea() const { return *this; }
+  /// Where the keyboard is, be it by letters of buttons or by the walk; what shows one of its children at a
+  /// time answers that one.
+  virtual const ContainerControl& keyboardArea() const { return *this; }
   void contain(Control& control, UserControl& parent, std::string_view name);
   void release(Control& control);
   void bringToFront(Control& control);

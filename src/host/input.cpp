@@ -9,7 +9,6 @@
 #include "host/user_control.h"
 
 namespace qrn::host {
-
 namespace {
 
 bool isInside(const Control* control, const Control& outer) {
@@ -37,6 +36,14 @@ bool pressedByMnemonic(const UserControl& root, std::int16_t letter) {
 }
 
 }  // namespace
+
+bool reachedByKeyboard(const Control& control) {
+  for (const Control* inner = &control; inner->Container(); inner = inner->Container()) {
+    const ContainerControl& area = inner->Container()->keyboardArea();
+    if (&area != inner->Container() && &area != inner) return false;
+  }
+  return control.shown() && control.enabledUpToSurface();
+}
 
 Control* Input::hit(Point at) const {
   Control* found = root_;
@@ -112,7 +119,7 @@ bool Input::moveFocus(bool forward) {
 
 void Input::surfaceGotFocus() {
   if (focus_) return;
-  if (Control* last = lastFocus_.get()) last->SetFocus();
+  if (Control* last = lastFocus_.get(); last && reachedByKeyboard(*last)) last->SetFocus();
 }
 
 void Input::surfaceLostFocus() { setFocus(nullptr); }

@@ -125,4 +125,8 @@ class Input {
   std::vector<Control*> peers_;
 };
 
+/// Whether a user can come to a control by keys alone: it is shown and enabled, as is all that it lies in,
+/// and nothing around it keeps the keyboard elsewhere.
+bool reachedByKeyboard(const Control& control);
+
 }  // namespace qrn::host

@@ -184,7 +184,11 @@ bool Controls::ownPart(std::string_view name) const {
 void Controls::remove(std::string_view name) {
   const auto* entry = list_.find(name);
   if (!entry) raiseRunTimeError(kControlNotFound, owner_.typeName());
-  const Owned<Control> gone = list_.take(entry->position);
+  // The name may be the control's own.
+  const std::string removed(name);
+  const WeakRef<Control> owner(&owner_);
+  list_.take(entry->position).reset();
+  if (owner) owner_.controlRemoved(removed);
 }
 
 Control* Controls::find(std::string_view name) const {

@@ -93,6 +93,7 @@ class UserControl : public ContainerControl, public Site {
   virtual Control* nextTabStop(Control* /*from*/, bool /*forward*/) { return nullptr; }
 
  protected:
+  friend class Controls;
   friend struct LifeCycle;
 
   virtual void initialize() {}
@@ -103,6 +104,8 @@ class UserControl : public ContainerControl, public Site {
   virtual void show() {}
   virtual void hide() {}
   virtual void terminate() {}
+  /// A control of the collection has been removed by its name, whoever did it.
+  virtual void controlRemoved(std::string_view /*name*/) {}
 
   /// Tells the site, which may do anything: answers whether the control is still there.
   bool propertyChanged(std::string_view key);

@@ -145,7 +145,7 @@ host::Control* QRNDisplayStack::nextTabStop(host::Control* from, bool forward) {
   return top.Enabled() ? top.nextTabStop(inside ? from : nullptr, forward) : nullptr;
 }
 
-const host::ContainerControl& QRNDisplayStack::mnemonicArea() const {
+const host::ContainerControl& QRNDisplayStack::keyboardArea() const {
   if (Count() == 0) return *this;
   return *page(Count())->Control();
 }

@@ -102,7 +102,7 @@ class QRNDisplayStack final : public host::UserControl {
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
   void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
   host::Control* nextTabStop(host::Control* from, bool forward) override;
-  const host::ContainerControl& mnemonicArea() const override;
+  const host::ContainerControl& keyboardArea() const override;
 
   /// Tools see the pages, the lowest one first.
   std::int32_t accessibleCount() const override { return Count(); }
