@@ -166,7 +166,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   /// has gone. Null when there can be none, or a listener has removed it already.
   QRNToolTip* DisplayToolTip(const Variant& RelatedControl, float nEstimatedLines);
   /// Takes the tool tip away, if there is one, and gives the focus back to the item that it was about if
-  /// wished.
+  /// wished. Nothing that goes wrong there keeps it.
   void RemoveToolTip(bool bRestoreFocus);
 
   /// The focus has come to a row or button, which has been scrolled into view.
@@ -229,6 +229,9 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   host::Image& imgMaxRst() { return imgMaxRst_; }
   host::Image& imgClose() { return imgClose_; }
   host::VScrollBar& sbrVertical() { return sbrVertical_; }
+
+  /// The user has gone elsewhere: removes the tool tip and ends the edit that it has held back.
+  void leave();
 
   void paint(host::Surface& surface, Size size) override;
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
@@ -339,7 +342,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   void placeToolTip();
   /// What a tool tip is about; null when that has gone.
   host::Control* relatedTo(const QRNToolTip& tip) const;
-  void toolTipLeft();
+  bool holdsEditsBack() const;
   host::Control* shownHelp() const;
 
   /// Null for what is no item's control.
@@ -390,7 +393,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   bool tallContent_ = false;
   bool editing_ = false;
   bool editChanged_ = false;   // of an end that is held back
-  bool toolTipShown_ = false;  // and the ends of edits are held back
+  bool toolTipShown_ = false;  // and no row has heard since that the application has been left
 };
 
 }  // namespace qrn

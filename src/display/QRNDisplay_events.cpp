@@ -32,10 +32,10 @@ void QRNDisplay::bringIntoView(const host::Control& control) {
 void QRNDisplay::startEditCycle(const PanelItem& item) {
   const WeakRef<host::Control> self(this);
   // A tool tip has taken the focus from a row, whose edit goes on.
-  if (toolTipShown_) return;
+  if (holdsEditsBack()) return;
   if (!isEdited(item)) releaseEditCycle();
   // Who heard of that end may have moved the item, removed it, or shown help.
-  if (!self || editing_ || toolTipShown_ || item.position() == 0) return;
+  if (!self || editing_ || holdsEditsBack() || item.position() == 0) return;
   editing_ = true;
   edited_ = item.weak_from_this();
   editIndex_ = item.position();
@@ -46,7 +46,7 @@ void QRNDisplay::startEditCycle(const PanelItem& item) {
 void QRNDisplay::endEditCycle(const PanelItem& item, bool changed) {
   if (!isEdited(item)) return;
   editChanged_ = changed;
-  if (!toolTipShown_) releaseEditCycle();
+  if (!holdsEditsBack()) releaseEditCycle();
 }
 
 // The position is that of now: items before it may have come or gone meanwhile.

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "base/first_error.h"
 #include "display/QRNDisplay.h"
 #include "display/shown_tool_tip.h"
 #include "host/control_ref.h"
@@ -16,6 +17,8 @@ constexpr double kLongestLine = 80;  // characters; the eye loses its way in lon
 
 QRNToolTip* QRNDisplay::toolTip() const { return toolTip_ ? toolTip_->tip.get() : nullptr; }
 
+bool QRNDisplay::holdsEditsBack() const { return toolTipShown_ && toolTip(); }
+
 QRNToolTip* QRNDisplay::DisplayToolTip(const Variant& RelatedControl, float nEstimatedLines) {
   const WeakRef<host::Control> self(this);
   RemoveToolTip(false);
@@ -26,7 +29,7 @@ QRNToolTip* QRNDisplay::DisplayToolTip(const Variant& RelatedControl, float nEst
   tip.SetRelatedControl(RelatedControl);
   estimatedLines_ = nEstimatedLines >= 1 ? nEstimatedLines : 1;
   placeToolTip();
-  bringToFront(tip);
+  // It has come last, so that it is in front.
   tip.SetVisible(true);
   // The row that loses the focus by this tells its listeners.
   tip.SetFocus();
@@ -37,8 +40,8 @@ void QRNDisplay::createToolTip() {
   auto& tip = static_cast<QRNToolTip&>(controls().add("QRNV16Controls2.QRNToolTip", kName, *this));
   toolTip_ = std::make_unique<ShownToolTip>();
   toolTip_->tip = WeakRef<QRNToolTip>(&tip);
-  toolTip_->closed = tip.TTClose.connect([this] { RemoveToolTip(true); });
-  toolTip_->left = tip.AppLostFocus.connect([this] { toolTipLeft(); });
+  toolTip_->closed = tip.afterTTClose.connect([this] { RemoveToolTip(true); });
+  toolTip_->left = tip.afterAppLostFocus.connect([this] { leave(); });
 }
 
 // Whoever hears that the focus is back may show other help, or remove this one himself.
@@ -46,7 +49,8 @@ void QRNDisplay::RemoveToolTip(bool bRestoreFocus) {
   const WeakRef<host::Control> self(this);
   const WeakRef<QRNToolTip> removed(toolTip());
   if (removed && bRestoreFocus) {
-    ignoringErrors([&] {
+    FirstError ignored;
+    ignored.of([&] {
       if (host::Control* related = relatedTo(*removed)) related->SetFocus();
     });
     if (!self || toolTip() != removed.get()) return;
@@ -70,7 +74,7 @@ host::Control* QRNDisplay::shownHelp() const {
 }
 
 // The edit that the tool tip has held back ends here.
-void QRNDisplay::toolTipLeft() {
+void QRNDisplay::leave() {
   RemoveToolTip(false);
   releaseEditCycle();
 }

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "base/first_error.h"
 #include "base/text.h"
 #include "diag/QRNErrors.h"
 #include "richtext/code_page.h"
@@ -48,7 +49,8 @@ void QRNToolTip::placed() {
 
 void QRNToolTip::show() {
   watch_ = std::make_unique<ApplicationWatch>();
-  watch_->left = watch_->application.AppLostFocus.connect([this] { raise(AppLostFocus, "AppLostFocus"); });
+  watch_->left = watch_->application.AppLostFocus.connect(
+      [this] { tell(AppLostFocus, "AppLostFocus", afterAppLostFocus); });
   watch_->application.SetHwnd(root().window());
   if (redraw_) return;
   redraw_ = true;
@@ -86,7 +88,15 @@ host::Control* QRNToolTip::focusTarget() {
 void QRNToolTip::keyDown(std::int16_t& keyCode, std::int16_t& shift) {
   if (keyCode != host::key::Escape || shift != host::shift::None) return;
   keyCode = 0;
-  raise(TTClose, "TTClose");
+  tell(TTClose, "TTClose", afterTTClose);
+}
+
+void QRNToolTip::tell(Event<>& event, std::string_view name, const Event<>& after) {
+  const WeakRef<host::Control> self(this);
+  FirstError error;
+  error.of([&] { raise(event, name); });
+  if (self) error.of([&] { after.raise(); });
+  error.raise();
 }
 
 void QRNToolTip::tellFactsOf(const host::Control& inside, host::AccessibleFacts& facts) const {

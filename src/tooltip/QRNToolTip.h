@@ -77,7 +77,8 @@ class QRNToolTip final : public host::UserControl {
   bool Redraw() const;
   void SetRedraw(bool redraw);
 
-  /// A file of code page 1252; empty for one that can't be read.
+  /// A file of code page 1252, with U+FFFD for the bytes that this does not use; empty for one that can't be
+  /// read.
   std::string GetFileAsString(const std::string& FileName) const;
   /// Puts a value in the place of a variable, wherever it stands in the RTF. Both are plain text.
   void RTFReplace(std::string& aRichText, const std::string& aVariable, const std::string& aValue) const;
@@ -88,6 +89,10 @@ class QRNToolTip final : public host::UserControl {
   Event<> AppLostFocus;
   /// The user has pressed Escape.
   Event<> TTClose;
+
+  // For whoever shows the tip and may remove it now: raised when all the others have heard, or failed.
+  Event<> afterAppLostFocus;
+  Event<> afterTTClose;
 
   /// The box, or the control itself while the box is hidden.
   host::Control* focusTarget() override;
@@ -113,6 +118,7 @@ class QRNToolTip final : public host::UserControl {
   };
 
   void showBox(bool shown);
+  void tell(Event<>& event, std::string_view name, const Event<>& after);
 
   host::RichTextBox rtfInfo_;
   Variant relatedControl_;

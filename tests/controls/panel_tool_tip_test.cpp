@@ -2,38 +2,13 @@
 
 #include <limits>
 
-#include "hooks/window_registry.h"
 #include "host/control_ref.h"
-#include "support/panel_fixture.h"
-#include "tooltip/QRNToolTip.h"
+#include "panel_tool_tip_fixture.h"
 
 namespace qrn::test {
 namespace {
 
-class PanelToolTip : public PanelTest {
- protected:
-  PanelToolTip() {
-    addParameter("A");
-    addParameter("B");
-    addParameter("C");
-    panel().LayoutControls(false);
-    startListening();
-  }
-
-  QRNToolTip& showTip(const Variant& related = "A", float lines = 2) {
-    return *panel().DisplayToolTip(related, lines);
-  }
-  host::Control* tip() { return panel().ControlsCollection().find("ctlToolTip"); }
-  // Nothing is heard of it, not even that the row has lost the focus.
-  void showTipOverAnEditOf(std::int32_t position) {
-    user->focuses(row(position));
-    user->types("x");
-    showTip(Variant(position));
-    startListening();
-  }
-  static Rect placeOf(const host::Control& control) { return control.onSurface(); }
-  Rect inside() { return placeOf(panel().ControlsContainer()); }
-};
+using PanelToolTip = ToolTipOfPanel;
 
 // ---- showing ----
 
@@ -263,156 +238,6 @@ TEST_F(PanelToolTip, IsLeftByTabToTheNeighboursOfItsRow) {
   showTip("B");
   user->presses(host::key::Tab, host::shift::Shift);
   EXPECT_TRUE(row(1).hasFocus());
-}
-
-// ---- edits are held back ----
-
-TEST_F(PanelToolTip, DoesNotEndTheEditOfTheRowThatItTakesTheFocusFrom) {
-  user->focuses(row(1));
-  startListening();
-  showTip("A");
-  EXPECT_EQ(events(), Events{"ItemLostFocus(1)"});
-  panel().RemoveToolTip(true);
-  EXPECT_EQ(events(), Events{"ItemGotFocus(1)"});
-  user->focuses(row(2));
-  EXPECT_EQ(events(), (Events{"ParameterEndEdit(1, False)", "ItemLostFocus(1)", "ParameterStartEdit(2)",
-                              "ItemGotFocus(2)"}));
-}
-
-TEST_F(PanelToolTip, HoldsEveryStartAndEndBackUntilTheApplicationIsLeft) {
-  showTipOverAnEditOf(1);
-  bool changed = true;
-  const host::EventArg arguments[] = {host::EventArg(changed)};
-  row(2).ObjectEvent.raise("StartEdit", {});
-  row(1).ObjectEvent.raise("StartEdit", {});
-  row(2).ObjectEvent.raise("EndEdit", arguments);
-  EXPECT_EQ(events(), Events{});
-  user->switchesAway();
-  EXPECT_EQ(events(), Events{"ParameterEndEdit(1, True)"});
-  EXPECT_EQ(tip(), nullptr);
-}
-
-TEST_F(PanelToolTip, StaysWhenARowHearsThatTheApplicationIsLeft) {
-  showTipOverAnEditOf(1);
-  row(2).ObjectEvent.raise("AppLostFocus", {});
-  EXPECT_EQ(events(), Events{"ParameterEndEdit(1, True)"});
-  EXPECT_NE(tip(), nullptr);
-  row(2).ObjectEvent.raise("StartEdit", {});
-  EXPECT_EQ(events(), Events{"ParameterStartEdit(2)"});
-}
-
-TEST_F(PanelToolTip, DeliversTheLastEndOnly) {
-  showTipOverAnEditOf(1);
-  bool changed = false;
-  const host::EventArg arguments[] = {host::EventArg(changed)};
-  row(1).ObjectEvent.raise("EndEdit", arguments);
-  user->switchesAway();
-  EXPECT_EQ(events(), Events{"ParameterEndEdit(1, False)"});
-}
-
-TEST_F(PanelToolTip, LeavesTheEndToTheNextStartWhenItIsRemoved) {
-  showTipOverAnEditOf(1);
-  panel().RemoveToolTip(false);
-  EXPECT_EQ(events(), Events{});
-  user->focuses(row(2));
-  EXPECT_EQ(events(), (Events{"ParameterEndEdit(1, True)", "ParameterStartEdit(2)", "ItemGotFocus(2)"}));
-}
-
-TEST_F(PanelToolTip, HeldBackEditGoesOnInItsRow) {
-  showTipOverAnEditOf(1);
-  user->holds(host::key::Escape);
-  user->types("y");
-  startListening();
-  user->focuses(row(2));
-  EXPECT_EQ(events().front(), "ParameterEndEdit(1, True)");
-}
-
-TEST_F(PanelToolTip, WithoutAnEditEndsNone) {
-  showTip();
-  user->switchesAway();
-  EXPECT_EQ(tip(), nullptr);
-  EXPECT_EQ(events(), Events{});
-}
-
-TEST_F(PanelToolTip, ShownWhenAnEditEndsKeepsTheNextOneFromStarting) {
-  user->focuses(row(1));
-  startListening();
-  const auto shows = panel().ParameterEndEdit.connect([&](std::int32_t&, bool&) { showTip("A"); });
-  row(2).ObjectEvent.raise("StartEdit", {});
-  EXPECT_EQ(events(), (Events{"ItemLostFocus(1)", "ParameterEndEdit(1, False)"}));  // the inner one first
-}
-
-// ---- lifetime ----
-
-TEST_F(PanelToolTip, GoesWithItsPanel) {
-  showTipOverAnEditOf(1);
-  panel_.reset();
-  EXPECT_EQ(watchedWindows(), 0);
-  user->switchesAway();
-}
-
-TEST_F(PanelToolTip, OutlivesItsItem) {
-  showTipOverAnEditOf(2);
-  items().Remove("B");
-  EXPECT_EQ(events(), Events{});
-  EXPECT_NE(tip(), nullptr);
-  user->switchesAway();
-  EXPECT_EQ(events(), Events{"ParameterEndEdit(2, True)"});
-  EXPECT_EQ(tip(), nullptr);
-}
-
-TEST_F(PanelToolTip, OfAnItemThatHasGoneClosesWithEscape) {
-  user->focuses(row(2));
-  showTip("B");
-  items().Remove("B");
-  user->holds(host::key::Escape);
-  EXPECT_EQ(tip(), nullptr);
-  EXPECT_EQ(panel().GetActiveItem(false), 0);
-}
-
-TEST_F(PanelToolTip, OfAControlThatHasGoneClosesWithEscape) {
-  showTip(host::referenceTo(row(2)));
-  items().Remove("B");
-  panel().Move(0, 0, 300, 200);
-  user->holds(host::key::Escape);
-  EXPECT_EQ(tip(), nullptr);
-}
-
-TEST_F(PanelToolTip, MayBeRemovedByAListenerOfItsOwnEvents) {
-  const auto close = showTip().TTClose.connect([&] { panel().RemoveToolTip(false); });
-  user->holds(host::key::Escape);
-  EXPECT_EQ(tip(), nullptr);
-  const auto left =
-      showTip().ObjectEvent.connect([&](std::string_view, host::EventArgs) { panel().RemoveToolTip(false); });
-  user->switchesAway();
-  EXPECT_EQ(tip(), nullptr);
-}
-
-TEST_F(PanelToolTip, MayBeFollowedByAnotherOneThatAListenerShows) {
-  user->focuses(row(1));
-  showTip("A");
-  QRNToolTip* next = nullptr;
-  const auto shows = panel().ItemGotFocus.connect([&](std::int32_t&) { next = &showTip("C"); });
-  user->holds(host::key::Escape);
-  ASSERT_NE(next, nullptr);
-  EXPECT_EQ(tip(), next);
-  EXPECT_EQ(next->RelatedControl(), Variant("C"));
-  EXPECT_TRUE(next->hasFocus());
-}
-
-TEST_F(PanelToolTip, MayCostThePanelItsLife) {
-  user->focuses(row(1));
-  const auto lost = panel().ItemLostFocus.connect([&](std::int32_t&) { panel_.reset(); });
-  EXPECT_EQ(panel().DisplayToolTip("A", 1), nullptr);
-  EXPECT_EQ(panel_, nullptr);
-}
-
-TEST_F(PanelToolTip, MayCostThePanelItsLifeWhenItGivesTheFocusBack) {
-  user->focuses(row(1));
-  showTip("A");
-  const auto got = panel().ItemGotFocus.connect([&](std::int32_t&) { panel_.reset(); });
-  panel().RemoveToolTip(true);
-  EXPECT_EQ(panel_, nullptr);
 }
 
 }  // namespace

@@ -5,9 +5,9 @@
 
 #include "controls/raised.h"
 #include "diag/QRNErrors.h"
-#include "library/library.h"
 #include "hooks/window_registry.h"
 #include "host/class_table.h"
+#include "library/library.h"
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/user.h"
 #include "tooltip/QRNToolTip.h"
@@ -44,6 +44,7 @@ TEST_F(ToolTips, AreFilledByTheirBox) {
   tip().Move(10, 10, 50, 30);
   EXPECT_EQ(box().bounds(), (Rect{0, 0, 50, 30}));
   EXPECT_EQ(box().Name(), "rtfInfo");
+  EXPECT_TRUE(box().bordered());
 }
 
 TEST_F(ToolTips, HaveTheTextOfTheBox) {
@@ -173,6 +174,11 @@ TEST_F(HelpFile, IsReadInTheWesternCodePage) {
   EXPECT_EQ(tip().GetFileAsString(path), std::string("aü€\r\n\0z", 10));
 }
 
+TEST_F(HelpFile, HasNoCharacterForBytesThatTheCodePageDoesNotUse) {
+  write("a\x81z");
+  EXPECT_EQ(tip().GetFileAsString(path), "a\uFFFDz");
+}
+
 TEST_F(HelpFile, MayBeEmpty) {
   write("");
   EXPECT_EQ(tip().GetFileAsString(path), "");
@@ -199,6 +205,14 @@ TEST_F(ToolTips, ShowTheirBoxWhenTheyAreShown) {
   tip().SetVisible(true);
   EXPECT_TRUE(tip().Redraw());
   EXPECT_TRUE(box().Visible());
+}
+
+TEST_F(ToolTips, LeaveABoxThatTheHostHidesAsItIsWhenTheyAreShownAgain) {
+  box().SetVisible(false);
+  tip().SetVisible(false);
+  tip().SetVisible(true);
+  EXPECT_TRUE(tip().Redraw());
+  EXPECT_FALSE(box().Visible());
 }
 
 TEST_F(ToolTips, HideTheirBoxWhileTheyAreFilled) {
