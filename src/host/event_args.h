@@ -13,8 +13,13 @@ class EventArg {
   EventArg(std::int16_t& value) : value_(&value) {}
   EventArg(std::int32_t& value) : value_(&value) {}
 
+  /// Calls with a reference to the argument, of whatever type that is.
+  template <class Call>
+  decltype(auto) visit(Call&& call) const {
+    return std::visit([&](auto* value) -> decltype(auto) { return call(*value); }, value_);
+  }
   std::int32_t asLong() const {
-    return std::visit([](auto* value) { return static_cast<std::int32_t>(*value); }, value_);
+    return visit([](auto value) { return static_cast<std::int32_t>(value); });
   }
   /// The argument itself; an argument of another type is a mistake of the caller and throws
   /// bad_variant_access.

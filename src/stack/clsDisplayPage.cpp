@@ -3,13 +3,17 @@
 #include <algorithm>
 #include <array>
 #include <tuple>
+#include <type_traits>
 #include <utility>
 
+#include "runtime/conversions.h"
+#include "runtime/errors.h"
 #include "stack/QRNDisplayStack.h"
 
 namespace qrn {
 namespace {
 
+using host::EventArg;
 using host::EventArgs;
 using Handler = void (*)(QRNDisplayStack& stack, std::string_view name, std::int32_t page,
                          EventArgs arguments);
@@ -19,36 +23,57 @@ struct Route {
   Handler handle;
 };
 
+template <class T>
+T converted(const Variant& value) {
+  if constexpr (std::is_same_v<T, bool>)
+    return CBool(value);
+  else if constexpr (std::is_same_v<T, std::int16_t>)
+    return CInt(value);
+  else
+    return CLng(value);
+}
+
+// Whoever raises an event by its name may give arguments of other types.
+template <class T>
+T valueOf(const EventArg& argument) {
+  return argument.visit([](const auto& value) { return converted<T>(Variant(value)); });
+}
+
+template <class T>
+void give(const EventArg& argument, T value) {
+  argument.visit([&](auto& target) { target = converted<std::decay_t<decltype(target)>>(Variant(value)); });
+}
+
 }  // namespace
 
 // What the stack makes of each event of a page's panel.
 struct PageRoutes {
   using S = QRNDisplayStack;
+  enum class Back : std::uint8_t { Nothing, All };  // of what a listener writes
 
-  // Raised with copies of the arguments: what a listener writes stays with the stack.
-  template <auto Event, class... Args>
-  static void relay(S& stack, std::string_view name, std::int32_t page, EventArgs arguments) {
-    relayCopies<Event, Args...>(stack, name, page, arguments, std::index_sequence_for<Args...>());
+  /// Raises an event of the stack, unless its arguments can't be had.
+  template <auto Event, Back WriteBack, class... Args>
+  static void raise(S& stack, std::string_view name, std::int32_t page, EventArgs arguments) {
+    raise<Event, WriteBack, Args...>(stack, name, page, arguments, std::index_sequence_for<Args...>());
   }
+  template <auto Event, class... Args>
+  static constexpr Handler relay = raise<Event, Back::Nothing, Args...>;
   // What a listener makes of a key of the panel itself is what the panel goes on with.
   template <auto Event, class... Args>
-  static void relayBothWays(S& stack, std::string_view name, std::int32_t page, EventArgs arguments) {
-    relayReferences<Event, Args...>(stack, name, page, arguments, std::index_sequence_for<Args...>());
-  }
+  static constexpr Handler relayBothWays = raise<Event, Back::All, Args...>;
 
   static const Route* find(std::string_view event);
 
  private:
-  template <auto Event, class... Args, std::size_t... I>
-  static void relayCopies(S& stack, std::string_view name, std::int32_t page, EventArgs arguments,
-                          std::index_sequence<I...>) {
-    std::tuple<Args...> copies{arguments[I].template as<Args>()...};
-    stack.raise(stack.*Event, name, page, std::get<I>(copies)...);
-  }
-  template <auto Event, class... Args, std::size_t... I>
-  static void relayReferences(S& stack, std::string_view name, std::int32_t page, EventArgs arguments,
-                              std::index_sequence<I...>) {
-    stack.raise(stack.*Event, name, page, arguments[I].template as<Args>()...);
+  template <auto Event, Back WriteBack, class... Args, std::size_t... I>
+  static void raise(S& stack, std::string_view name, std::int32_t page, EventArgs arguments,
+                    std::index_sequence<I...>) {
+    std::tuple<Args...> values;
+    if (arguments.size() < sizeof...(Args)) return;
+    if (!ignoringErrors([&] { values = {valueOf<Args>(arguments[I])...}; })) return;
+    stack.raise(stack.*Event, name, page, std::get<I>(values)...);
+    if constexpr (WriteBack == Back::All)
+      ignoringErrors([&] { (give(arguments[I], std::get<I>(values)), ...); });
   }
 };
 

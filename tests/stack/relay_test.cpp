@@ -1,3 +1,5 @@
+#include <stdexcept>
+
 #include "stack_fixture.h"
 
 namespace qrn::test {
@@ -58,6 +60,16 @@ TEST_F(Relay, HandsAKeyOfThePanelBackAsItsListenerLeavesIt) {
   EXPECT_EQ(key, 65);
 }
 
+TEST_F(Relay, SwallowsAKeyThatItsListenerClears) {
+  addPages("..");
+  keep = stack().KeyPress.connect([](std::int32_t&, std::int16_t& key) {
+    if (key == 'x') key = 0;
+  });
+  page(2).ControlsContainer().SetFocus();
+  EXPECT_EQ(stack().input().keyPress('x'), 0);
+  EXPECT_EQ(stack().input().keyPress('y'), 'y');
+}
+
 TEST_F(Relay, HandsTheCodeAndTheShiftStateBack) {
   addPages(".");
   keep = stack().KeyDown.connect([](std::int32_t&, std::int16_t& key, std::int16_t& shift) {
@@ -83,6 +95,82 @@ TEST_F(Relay, TakesNoChangeBackFromTheKeysOfAnItem) {
   keep = stack().ItemKeyPress.connect([](std::int32_t&, std::int32_t&, std::int16_t& key) { key = 0; });
   user->types("x");
   EXPECT_EQ(row.ValueText(), "x");
+}
+
+TEST_F(Relay, TakesNoChangeBackFromWhatElseHappensToAnItem) {
+  addPages(".");
+  std::int32_t item = 7;
+  std::int16_t first = 8, second = 9;
+  const auto changes = [](std::int32_t&, std::int32_t& index, std::int16_t& one, std::int16_t& other) {
+    index = one = other = 1;
+  };
+  const auto down = stack().ItemKeyDown.connect(changes), up = stack().ItemKeyUp.connect(changes);
+  const auto changesOne = [](std::int32_t&, std::int32_t& index, std::int16_t& one) { index = one = 1; };
+  const auto checked = stack().ParameterItemCheck.connect(changesOne),
+             pressed = stack().ItemKeyPress.connect(changesOne),
+             chosen = stack().ItemMenuClick.connect(changesOne);
+  const host::EventArg arguments[] = {item, first, second};
+  for (const char* name : {"ItemKeyDown", "ItemKeyUp", "ItemKeyPress", "ParameterItemCheck", "ItemMenuClick"})
+    page(1).ObjectEvent.raise(name, arguments);
+  EXPECT_EQ(take().size(), 5U);
+  EXPECT_EQ(item, 7);
+  EXPECT_EQ(first, 8);
+  EXPECT_EQ(second, 9);
+}
+
+// ---- arguments as others raise them ----
+
+class ForeignArguments : public StackTest {
+ protected:
+  ForeignArguments() { addPages(".."); }
+  Events heardOf(std::string_view name, std::initializer_list<host::EventArg> arguments) {
+    page(2).ObjectEvent.raise(name, host::EventArgs(arguments.begin(), arguments.size()));
+    return take();
+  }
+  std::int32_t number = 66;
+  std::int16_t word = 7;
+  bool flag = true;
+};
+
+TEST_F(ForeignArguments, AreConverted) {
+  EXPECT_EQ(heardOf("ItemGotFocus", {word}), Events{"ItemGotFocus(2, 7)"});
+  EXPECT_EQ(heardOf("KeyPress", {number}), Events{"KeyPress(2, 66)"});
+  EXPECT_EQ(heardOf("KeyDown", {flag, number}), Events{"KeyDown(2, -1, 66)"});
+  EXPECT_EQ(heardOf("ParameterEndEdit", {word, number}), Events{"ParameterEndEdit(2, 7, True)"});
+}
+
+TEST_F(ForeignArguments, GetTheKeyBackAsWhatTheyAre) {
+  keep =
+      stack().KeyDown.connect([](std::int32_t&, std::int16_t& key, std::int16_t& shift) { key = shift = 0; });
+  heardOf("KeyDown", {number, flag});
+  EXPECT_EQ(number, 0);
+  EXPECT_FALSE(flag);
+}
+
+TEST_F(ForeignArguments, ThatAreMissingEndTheEvent) {
+  EXPECT_EQ(heardOf("ItemKeyDown", {}), Events{});
+  EXPECT_EQ(heardOf("ItemKeyDown", {number, word}), Events{});
+  EXPECT_EQ(heardOf("KeyPress", {}), Events{});
+  EXPECT_EQ(heardOf("ParameterEndEdit", {number}), Events{});
+}
+
+TEST_F(ForeignArguments, ThatAreTooLargeEndTheEvent) {
+  number = 100000;
+  EXPECT_EQ(heardOf("KeyPress", {number}), Events{});
+  EXPECT_EQ(heardOf("ItemKeyPress", {word, number}), Events{});
+  EXPECT_EQ(heardOf("ItemGotFocus", {number}), Events{"ItemGotFocus(2, 100000)"});
+}
+
+TEST_F(ForeignArguments, BeyondThoseOfTheEventDoNotCount) {
+  EXPECT_EQ(heardOf("ButtonClick", {word, flag, flag}), Events{"ButtonClick(2, 7)"});
+  EXPECT_EQ(heardOf("DisplayClose", {flag}), (Events{"PageClose(2, False)", "PageActivate(1)"}));
+}
+
+TEST_F(Relay, LeavesTheErrorOfAListenerToWhoeverHasRaisedTheEvent) {
+  addPages(".");
+  keep = stack().KeyPress.connect([](std::int32_t&, std::int16_t&) { throw std::runtime_error("no"); });
+  std::int16_t key = 65;
+  EXPECT_THROW(page(1).keyPress(key), std::runtime_error);
 }
 
 TEST_F(Relay, TakesNoChangeBackFromTheEndOfAnEdit) {
