@@ -139,15 +139,12 @@ void QRNDisplayStack::mouseUp(host::MouseButton button, std::int16_t, Point at) 
 
 // The keyboard is for the page on top only.
 host::Control* QRNDisplayStack::nextTabStop(host::Control* from, bool forward) {
-  if (Count() == 0) return nullptr;
-  QRNDisplay& top = *page(Count())->Control();
-  const bool inside = from && from != this && top.hasFocus();
-  return top.Enabled() ? top.nextTabStop(inside ? from : nullptr, forward) : nullptr;
+  return top() && top()->Enabled() ? top()->nextTabStop(from, forward) : nullptr;
 }
 
 const host::ContainerControl& QRNDisplayStack::keyboardArea() const {
-  if (Count() == 0) return *this;
-  return *page(Count())->Control();
+  if (top()) return *top();
+  return *this;
 }
 
 }  // namespace qrn

@@ -115,6 +115,7 @@ class QRNDisplayStack final : public host::UserControl {
   void resize() override { layOutAll(); }
   void show() override;
   void terminate() override;
+  void controlRemoved(std::string_view name) override;
   void realised() override { settleScrollBars(); }
 
  private:
@@ -126,6 +127,7 @@ class QRNDisplayStack final : public host::UserControl {
   void storeIndent(std::int32_t& field, std::int32_t indent, std::string_view key);
   const Page& page(std::int32_t index) const { return pages_.at(index); }
   bool isTop(const clsDisplayPage& page) const { return page.isOpen() && page.PageIndex() == Count(); }
+  QRNDisplay* top() const { return Count() > 0 ? page(Count())->Control() : nullptr; }
   /// Whether there is a page that takes all input until it is closed.
   bool hasDialog() const;
   /// What is done to a page may let listeners run, which may do anything: each page is looked up when its
@@ -149,7 +151,8 @@ class QRNDisplayStack final : public host::UserControl {
   void cover(const Page& below, const Page& above, FirstError& error);
   enum class Closed : std::uint8_t { Nothing, Some, SomeUnderAnother };
   Closed closeAbove(std::int32_t index, FirstError& error);
-  void close(const Page& page);
+  void closeTop();
+  void removeTop();
   void enableDownToDialog();
   void uncoverTop(FirstError& error);
 

@@ -73,15 +73,17 @@ void QRNDisplayStack::dress(QRNDisplay& display, std::int32_t index, const std::
 void QRNDisplayStack::cover(const Page& below, const Page& above, FirstError& error) {
   const WeakRef<Control> self(this);
   const Page covered = below;
+  QRNDisplay& display = *covered->Control();
   // Covered as long as the page above is there: when that goes, this one is uncovered again.
   const auto there = [&] { return self && covered->isOpen() && above->isOpen(); };
-  error.of([&] { layOut(*above, covered->Control()->Maximized()); });
+  error.of([&] { layOut(*above, display.Maximized()); });
   if (!there()) return;
-  // The keyboard goes along with what can't be seen any more, and leaves what can.
-  if (hideDisabledControls_) error.of([&] { covered->Control()->ControlsContainer().SetVisible(false); });
-  if (there() && covered->Control()->hasFocus()) error.of([&] { input().setFocus(nullptr); });
+  // The keyboard leaves what it can't come back to, be it still in sight or not, and so do tool tips.
+  if (hasFocus() && !host::reachedByKeyboard(*input().focus())) error.of([&] { input().setFocus(nullptr); });
+  if (there()) error.of([&] { display.leave(); });
+  if (there() && hideDisabledControls_) error.of([&] { display.ControlsContainer().SetVisible(false); });
   if (!there()) return;
-  covered->Control()->SetActive(false);
+  display.SetActive(false);
   error.of([&] { raise(PageDeactivate, "PageDeactivate", covered->PageIndex()); });
 }
 
@@ -115,23 +117,40 @@ QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index, FirstErr
     if (another) return closed == Closed::Nothing ? closed : Closed::SomeUnderAnother;
     if (!asked->isOpen()) continue;
     if (cancel) return closed;
-    close(asked);
+    closeTop();
     if (!self) return closed;
     closed = Closed::Some;
   }
   return closed;
 }
 
-void QRNDisplayStack::close(const Page& page) {
+void QRNDisplayStack::closeTop() {
   const WeakRef<Control> self(this);
-  const std::string name(page->Control()->Name());
-  DebugTrace("Close Page =" + std::to_string(page->PageIndex()) + " " + name, kTraceLevel);
-  const std::int32_t index = page->PageIndex();
-  controls().remove(name);
+  DebugTrace("Close Page =" + std::to_string(Count()) + " " + std::string(top()->Name()), kTraceLevel);
+  removeTop();
   if (!self) return;
-  pages_.take(index);
   settleScrollBars();
   DebugTrace("Close Page done", kTraceLevel);
+}
+
+// Nobody finds a page any more that is about to go.
+void QRNDisplayStack::removeTop() {
+  const Page top = pages_.take(Count());
+  if (top->Control()) controls().remove(std::string(top->Control()->Name()));
+}
+
+// The host, or a page itself, may remove the control of a page; those above can't stay without it.
+void QRNDisplayStack::controlRemoved(std::string_view name) {
+  const std::int32_t index = pages_.positionOf(Variant(name));
+  if (index == 0) return;
+  const WeakRef<Control> self(this);
+  while (self && Count() >= index) removeTop();
+  if (!self || Count() == 0) return;
+  settleScrollBars();
+  enableDownToDialog();
+  FirstError error;
+  uncoverTop(error);
+  error.raise();
 }
 
 // Those below the uppermost dialog stay as they are.
@@ -157,10 +176,7 @@ void QRNDisplayStack::uncoverTop(FirstError& error) {
 }
 
 void QRNDisplayStack::terminate() {
-  while (Count() > 0) {
-    const Page top = pages_.take(Count());
-    controls().remove(std::string(top->Control()->Name()));
-  }
+  while (Count() > 0) removeTop();
 }
 
 }  // namespace qrn

@@ -88,6 +88,56 @@ TEST_F(FailingListener, OfAChangedIndentLeavesThePagesInTheirPlaces) {
   EXPECT_EQ(other->Pages(Variant(2)).bounds(), (Rect{30, 20, 370, 280}));
 }
 
+TEST_F(FailingListener, OfTheFirstPageLayoutLeavesThePageActive) {
+  keep = stack().PageLayout.connect([](std::int32_t) { fail(); });
+  expectFailure([&] { add(); });
+  EXPECT_EQ(page(1).bounds(), (Rect{0, 0, 400, 300}));
+  expectInOrder();
+}
+
+TEST_F(FailingListener, OfALostFocusLeavesAPageCoveredThatStaysInSight) {
+  stack().SetHideDisabledControls(false);
+  user->focuses(addRow(*add()));
+  keep = stack().ItemLostFocus.connect([](std::int32_t&, std::int32_t&) { fail(); });
+  expectFailure([&] { add(true); });
+  EXPECT_FALSE(page(1).hasFocus());
+  expectInOrder();
+}
+
+TEST_F(FailingListener, WhoComesFirstIsTheOneThatTheCallerHears) {
+  addPages("..");
+  keep = stack().PageDeactivate.connect([](std::int32_t) { throw std::runtime_error("first"); });
+  const auto second = stack().PageActivate.connect([](std::int32_t) { fail(); });
+  try {
+    add(true);
+    ADD_FAILURE() << "nothing was raised";
+  } catch (const std::runtime_error& error) {
+    EXPECT_STREQ(error.what(), "first");
+  }
+  expectInOrder();
+}
+
+TEST_F(FailingListener, MayHaveClosedThePageBefore) {
+  addPages(".");
+  keep = stack().PageLayout.connect([&](std::int32_t) {
+    stack().ActivatePage(1);
+    fail();
+  });
+  expectFailure([&] { add(true); });
+  EXPECT_EQ(stack().Count(), 1);
+  expectInOrder();
+}
+
+TEST_F(FailingListener, MayHaveDestroyedTheStackBefore) {
+  addPages(".");
+  keep = stack().PageDeactivate.connect([&](std::int32_t) {
+    destroyStack();
+    fail();
+  });
+  expectFailure([&] { add(true); });
+  EXPECT_EQ(stack_, nullptr);
+}
+
 // ---- a page that can't be laid out ----
 
 class TallPage : public FailingListener {
@@ -127,6 +177,15 @@ TEST_F(TallPage, IsMaximizedWithTheOthers) {
   expectOverflow([&] { user->clicks(page(4).imgMaxRst()); });
   for (std::int32_t k : {2, 3, 4}) EXPECT_FALSE(page(k).Maximized()) << k;
   EXPECT_EQ(page(4).bounds(), (Rect{30, 60, 370, 240}));
+}
+
+TEST_F(TallPage, LeavesTheOthersTheirFont) {
+  addPages("..");
+  makeTall(page(1));
+  const auto font = std::make_shared<host::Font>("Serif", 12);
+  static_cast<headless::FixedMetrics&>(platform.metrics(*font)).textHeight = 20;
+  expectOverflow([&] { stack().SetFont(font); });
+  EXPECT_EQ(*page(2).Font(), *font);
 }
 
 TEST_F(TallPage, IsAddedAllTheSame) {

@@ -1,4 +1,3 @@
-#include <functional>
 #include <stdexcept>
 
 #include "stack_fixture.h"
@@ -8,15 +7,7 @@
 namespace qrn::test {
 namespace {
 
-class Meddling : public StackTest {
- protected:
-  /// Once, so that what it does itself is left alone.
-  std::function<void()> once(std::function<void()> action) {
-    return [action = std::move(action), done = false]() mutable {
-      if (!std::exchange(done, true)) action();
-    };
-  }
-};
+using Meddling = StackTest;
 
 TEST_F(Meddling, APageMayBeClosedWhileItIsLaidOut) {
   add();
@@ -131,6 +122,32 @@ TEST_F(Meddling, AFailingListenerKeepsThePageThatItWasAskedFor) {
   expectInOrder();
 }
 
+// What ends when a page is covered has listeners, too.
+TEST_F(Meddling, APageMayBeClosedWhileItCoversAnother) {
+  for (const bool hides : {true, false}) {
+    for (const bool modal : {true, false}) {
+      stack().SetHideDisabledControls(hides);
+      user->focuses(addRow(*add()));
+      const auto close = once([&] { stack().ActivatePage(1); });
+      keep = stack().ParameterEndEdit.connect([&](std::int32_t&, std::int32_t&, bool&) { close(); });
+      take();
+      EXPECT_EQ(add(modal), nullptr);
+      EXPECT_EQ(take(), (Events{"PageLayout(2)", "PageClose(2, False)", "PageActivate(1)",
+                                "ParameterEndEdit(1, 1, False)", "ItemLostFocus(1, 1)"}));
+      EXPECT_EQ(stack().Count(), 1);
+      expectInOrder();
+      stack().ActivatePage(0);
+    }
+  }
+}
+
+TEST_F(Meddling, APageThatIsCoveredWhileItIsLaidOutIsNotActivated) {
+  keep = stack().PageLayout.connect([&, another = once([&] { add(); })](std::int32_t) mutable { another(); });
+  add();
+  EXPECT_EQ(take(), (Events{"PageLayout(2)", "PageDeactivate(1)", "PageActivate(2)", "PageLayout(1)"}));
+  expectInOrder();
+}
+
 TEST_F(Meddling, ThePagesMayGoWhileAKeyIsHandedOn) {
   addPages("..");
   keep =
@@ -145,6 +162,36 @@ TEST_F(Meddling, APageMayGoWhenItsItemGetsTheFocus) {
   keep = stack().ItemGotFocus.connect([&](std::int32_t&, std::int32_t&) { stack().ActivatePage(0); });
   user->focuses(row);
   EXPECT_EQ(stack().Count(), 0);
+}
+
+// ---- the host removes the control of a page ----
+
+TEST_F(Meddling, ThePageWhoseControlIsRemovedUncoversTheOneBelow) {
+  addPages("..m");
+  stack().controls().remove("Page3");
+  EXPECT_EQ(take(), Events{"PageActivate(2)"});
+  EXPECT_EQ(stack().Count(), 2);
+  expectInOrder();
+}
+
+TEST_F(Meddling, ThePageWhoseControlIsRemovedTakesThoseAboveAlong) {
+  addPages("....");
+  stack().controls().remove("Page2");
+  EXPECT_EQ(take(), Events{"PageActivate(1)"});
+  EXPECT_EQ(stack().Count(), 1);
+  expectInOrder();
+  stack().controls().remove("Page1");
+  EXPECT_EQ(take(), Events{});
+  EXPECT_EQ(stack().Count(), 0);
+}
+
+TEST_F(Meddling, AControlOfTheHostsOwnMayBeRemoved) {
+  addPages("..");
+  stack().controls().add("QRNV16Controls2.QRNImageList", "mine", stack());
+  stack().controls().remove("mine");
+  EXPECT_EQ(take(), Events{});
+  EXPECT_EQ(stack().Count(), 2);
+  expectInOrder();
 }
 
 // ---- the stack itself goes ----
@@ -196,6 +243,26 @@ TEST_F(Destroying, WhenTheEditOfACoveredPageEnds) {
   user->focuses(row);
   keep = stack().ParameterEndEdit.connect([&](std::int32_t&, std::int32_t&, bool&) { destroyStack(); });
   expectGone([&] { EXPECT_EQ(add(true), nullptr); });
+}
+
+TEST_F(Destroying, TakesThePagesOffFromTheTopDown) {
+  // Tells when the page that it has been given to goes.
+  struct Given final : Object {
+    explicit Given(std::function<void()> whenGone) : goes(std::move(whenGone)) {}
+    ~Given() override { goes(); }
+    std::string_view typeName() const override { return "Given"; }
+    std::function<void()> goes;
+  };
+  addPages("...");
+  Events gone;
+  for (std::int32_t i = 1; i <= 3; ++i) {
+    const auto goes = [&gone, i, all = &stack()] {
+      gone.push_back(shown(i) + " before " + shown(all->Count()));
+    };
+    page(i).SetExtraData(Variant(ObjectPtr(std::make_shared<Given>(goes))));
+  }
+  destroyStack();
+  EXPECT_EQ(gone, (Events{"3 before 2", "2 before 1", "1 before 0"})) << "with the record of each";
 }
 
 }  // namespace

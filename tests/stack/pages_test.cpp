@@ -93,6 +93,25 @@ TEST_F(Stack, HasOneActivePageTheTopOne) {
   EXPECT_EQ(activePages(stack()), "..A");
 }
 
+TEST_F(Stack, TellsOfACoveredPageWhenThatHasBecomeInactive) {
+  addPages(".");
+  keep = stack().PageDeactivate.connect([&](std::int32_t index) {
+    EXPECT_FALSE(page(index).Active());
+    EXPECT_FALSE(page(index).ControlsContainer().Visible());
+    take();
+  });
+  add();
+  EXPECT_EQ(take(), (Events{"PageDeactivate(1)", "PageActivate(2)"}));
+}
+
+TEST_F(Stack, HasItsTopPageInFrontOfWhatTheHostPutsThere) {
+  keep = stack().PageLayout.connect([&](std::int32_t) {
+    if (stack().Count() == 1) stack().controls().add("QRNV16Controls2.QRNMenuItem", "mine", stack());
+  });
+  add();
+  EXPECT_EQ(stack().contained().back(), &page(1));
+}
+
 TEST_F(Stack, LetsCoveredPagesShowTheirFrameAndTitleOnly) {
   addPages("..");
   EXPECT_FALSE(page(1).ControlsContainer().Visible());
@@ -223,6 +242,18 @@ TEST_F(Stack, GivesItsBackColourToEveryPage) {
   page(1).SetBackColor(host::rgb(9, 9, 9));
   stack().SetBackColor(host::rgb(1, 2, 3));
   EXPECT_EQ(page(1).BackColor(), host::rgb(9, 9, 9)) << "it is the stack's own already";
+}
+
+TEST_F(Stack, TellsItsSiteOfEachPropertyThatChanges) {
+  site.changedKeys.clear();
+  for (int i = 0; i < 2; ++i) {
+    stack().SetLeftIndent(11);
+    stack().SetTopIndent(21);
+    stack().SetHideDisabledControls(false);
+    stack().SetEnabled(false);
+  }
+  EXPECT_EQ(site.changedKeys,
+            (std::vector<std::string>{"LeftIndent", "TopIndent", "HideDisabledControls", "Enabled"}));
 }
 
 TEST_F(Stack, KeepsWhatItsHostGivesIt) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -63,19 +64,30 @@ class StackTest : public ::testing::Test {
   /// What was raised since the last call.
   Events take() { return std::exchange(lines_, {}); }
 
-  /// Exactly one page is active, the top one, and those below the uppermost modal one are disabled.
+  /// Exactly one page is active, the top one, those below the uppermost modal one are disabled, and each
+  /// begins where it belongs.
   void expectInOrder() {
     const std::int32_t count = stack().Count();
     EXPECT_EQ(activePages(stack()),
               std::string(static_cast<std::size_t>(std::max(count - 1, 0)), '.') + (count > 0 ? "A" : ""));
     std::int32_t dialog = 0;
     for (std::int32_t i = 1; i <= count; ++i) {
-      EXPECT_EQ(page(i).ControlsContainer().Visible(), i == count) << i;
-      if (page(i).TitleStyle() == qrnTitleDialog) dialog = i;
+      EXPECT_EQ(page(i).ControlsContainer().Visible(), i == count || !stack().HideDisabledControls()) << i;
+      if (page(i).TitleStyle() == qrnTitleDialog)
+        dialog = i;
+      else
+        EXPECT_EQ(page(i).bounds().topLeft(), (Point{10.0 * (i - 1), 20.0 * (i - 1)})) << i;
     }
     for (std::int32_t i = 1; i <= count; ++i) EXPECT_EQ(page(i).Enabled(), i >= dialog) << i;
     if (count == 0) return;
     EXPECT_EQ(stack().contained().back(), &page(count)) << "the top page is in front";
+  }
+
+  /// Only the first time, so that what it does itself is left alone.
+  static std::function<void()> once(std::function<void()> action) {
+    return [action = std::move(action), done = std::make_shared<bool>(false)] {
+      if (!std::exchange(*done, true)) action();
+    };
   }
 
   headless::HeadlessPlatform platform;
