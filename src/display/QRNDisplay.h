@@ -255,6 +255,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
     keyUp(keyCode, shift);
   }
   host::Control* nextTabStop(host::Control* from, bool forward) override;
+  void childMeasureChanged(host::Control&) override { columnsFit_ = false; }
 
   std::int32_t accessibleCount() const override;
   host::AccessibleNode accessibleChild(std::int32_t index) override;
@@ -391,6 +392,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   bool active_ = true;
   bool redraw_ = false;
   bool tallContent_ = false;
+  bool columnsFit_ = false;  // as far as nothing has changed that they depend on
   bool editing_ = false;
   bool editChanged_ = false;   // of an end that is held back
   bool toolTipShown_ = false;  // and no row has heard since that the application has been left

@@ -17,15 +17,6 @@ ColumnWidths minimumOf(const QRNEdit& row) {
 
 ColumnWidths widthsOf(const QRNEdit& row) { return {row.LabelWidth(), row.ValueWidth(), row.UnitWidth()}; }
 
-void setWidth(QRNEdit& row, int column, std::int32_t width) {
-  if (column == 0)
-    row.SetLabelWidth(width);
-  else if (column == 1)
-    row.SetValueWidth(width);
-  else
-    row.SetUnitWidth(width);
-}
-
 }  // namespace
 
 // ---- the parts of the panel ----
@@ -71,11 +62,11 @@ void QRNDisplay::SetColumnLayout(std::int32_t nLabelWeight, std::int32_t nValueW
 }
 
 void QRNDisplay::LayoutControls(bool bAdjustParamsOnly) {
-  if (bAdjustParamsOnly && !columns_.anyAutomatic()) return;
+  if (bAdjustParamsOnly && (columnsFit_ || !columns_.anyAutomatic())) return;
   ColumnFit fit(columns_);
   if (columns_.anyAutomatic()) {
     for (const PanelItemPtr& item : *items_) {
-      const auto* row = dynamic_cast<const QRNEdit*>(item->control());
+      const QRNEdit* row = item->row();
       if (!row) continue;
       if (bAdjustParamsOnly)
         fit.add(minimumOf(*row), widthsOf(*row));
@@ -83,8 +74,8 @@ void QRNDisplay::LayoutControls(bool bAdjustParamsOnly) {
         fit.add(minimumOf(*row));
     }
   }
-  if (bAdjustParamsOnly && !fit.mustRefit()) return;
-  placeItems(fit.widths());
+  columnsFit_ = bAdjustParamsOnly && !fit.mustRefit();
+  if (!columnsFit_) placeItems(fit.widths());
 }
 
 double QRNDisplay::containerWidth() const {
@@ -97,18 +88,19 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
   double y = 0, gap = 0;
   std::int32_t tab = 0;
   const WeakRef<host::Control> self(this);
+  const host::ContainerControl::Rearrangement rearrangement(pbxContainer_);
   // By position: a row that ends its edit when it is placed has listeners, and they may change the items.
   for (std::int32_t position = 1; self && position <= items_->Count(); ++position) {
-    const PanelItemPtr item = items_->Item(Variant(position));
-    host::Control* control = item->control();
+    const PanelItem& item = items_->at(position);
+    host::Control* control = item.control();
     if (!control || !control->Visible()) continue;
     control->SetTabIndex(++tab);
-    if (auto* button = dynamic_cast<QRNMenuItem*>(control)) {
-      y = placeAction(*button, all, y, gap);
-      gap = 0;
-    } else {
-      y = placeRow(static_cast<QRNEdit&>(*control), all, y, gap);
+    if (QRNEdit* row = item.row()) {
+      y = placeRow(*row, all, y, gap);
       gap = all.verticalSpacing;
+    } else {
+      y = placeAction(static_cast<QRNMenuItem&>(*control), all, y, gap);
+      gap = 0;
     }
   }
   if (self) setUpScrollBar(y);
@@ -125,26 +117,21 @@ double QRNDisplay::placeAction(QRNMenuItem& button, const ItemMeasures& all, dou
 }
 
 double QRNDisplay::placeRow(QRNEdit& row, const ItemMeasures& all, double y, double gap) {
-  row.switchRedraw(false);
-  row.SetHorizontalSpacing(all.horizontalSpacing);
   const double width = std::max(all.room - 2.0 * all.horizontalSpacing, kNarrowest);
-  double free = width - row.GetMinBruttoWidth();
-  for (int column = 0; column < kColumns; ++column) {
-    if (!columns_.isAutomatic(column)) continue;
-    setWidth(row, column, all.automatic[static_cast<std::size_t>(column)]);
-    free -= all.automatic[static_cast<std::size_t>(column)];
-  }
+  ColumnWidths widths = all.automatic;
+  double free = width - row.widthBesideParts(all.horizontalSpacing);
+  for (const std::int32_t automatic : all.automatic) free -= automatic;
   free = std::max(free, 1.0);
-  for (int column = 0; column < kColumns; ++column) {
-    if (columns_.isAutomatic(column)) continue;
-    const auto share = static_cast<double>(columns_.weight[static_cast<std::size_t>(column)]);
-    setWidth(row, column, static_cast<std::int32_t>(std::floor(share * free)));
+  for (std::size_t column = 0; column < kColumns; ++column) {
+    const auto share = static_cast<double>(columns_.weight[column]);
+    if (share > 0) widths[column] = static_cast<std::int32_t>(std::floor(share * free));
   }
-  if (!row.UnitVisible()) row.SetValueWidth(row.ValueWidth() + row.UnitWidth());
+  if (!row.UnitVisible()) widths[1] += widths[2];
   const std::int32_t height = row.GetMinHeight();
   if (y > 0) y += std::max(gap, static_cast<double>(all.verticalSpacing));
-  row.Move(all.horizontalSpacing, y, width, height);
-  row.switchRedraw(true);
+  const auto left = static_cast<double>(all.horizontalSpacing);
+  const Rect bounds{left, y, width, static_cast<double>(height)};
+  row.place({bounds, all.horizontalSpacing, widths[0], widths[1], widths[2]});
   return y + height;
 }
 

@@ -35,6 +35,7 @@ PanelItemPtr clsQRNCollection::addItem(PanelItemPtr item, std::string_view progI
   const std::string key = name.empty() ? items_.freeKey(prefix) : std::string(name);
   auto& control = panel.ControlsCollection().add(progId, key, panel.ControlsContainer());
   items_.add(key, item, atPosition);
+  panel.childMeasureChanged(control);
   item->SetControl(static_cast<host::UserControl&>(control));
   return item;
 }

@@ -56,6 +56,7 @@ class clsQRNCollection final : public Object {
                                      std::string_view prefix, std::string_view name,
                                      const std::optional<Variant>& atPosition);
   void removeAt(std::int32_t position);
+  const PanelItem& at(std::int32_t position) const { return *items_.at(position); }
 
   clsHiddenRef<QRNDisplay> owner_;
   SelectableList<PanelItem> items_;

@@ -136,7 +136,7 @@ std::string_view clsQRNParam::stateError() const {
 
 void clsQRNParam::tellFacts(const host::Control& inside, host::AccessibleFacts& facts) const {
   QRNEdit& row = Control();
-  if (&inside == &row.imgIcon2()) {
+  if (row.isIcon2(inside)) {
     if (facts.name.empty()) facts.name = lookOf(state_, dynamicPhase_).words;
   } else if (&inside == row.CurrentEditor() || facts.role == host::AccessibleRole::Label) {
     facts.error = stateError();

@@ -34,6 +34,7 @@ class clsQRNParam final : public PanelItem {
 
  private:
   void SetControl(host::UserControl& control) override;
+  QRNEdit* row() const override { return static_cast<QRNEdit*>(control()); }
   void controlEvent(std::string_view name, host::EventArgs arguments) override;
   void tellFacts(const host::Control& inside, host::AccessibleFacts& facts) const override;
 

@@ -5,10 +5,20 @@
 
 namespace qrn {
 
+PanelItem::~PanelItem() {
+  if (control_) control_->follow(nullptr);
+}
+
+const Variant& PanelItem::Tag() const {
+  static const Variant none;
+  return tag_ ? *tag_ : none;
+}
+
+void PanelItem::SetTag(const Variant& tag) { tag_ = std::make_unique<Variant>(tag); }
+
 void PanelItem::SetControl(host::UserControl& control) {
-  control_ = WeakRef<host::UserControl>(&control);
-  events_ = control.ObjectEvent.connect(
-      [this](std::string_view name, host::EventArgs arguments) { controlEvent(name, arguments); });
+  control_ = &control;
+  control.follow(this);
 }
 
 host::UserControl& PanelItem::requireControl() const {

@@ -14,14 +14,18 @@
 namespace qrn {
 
 class QRNDisplay;
+class QRNEdit;
 
 /// What the two kinds of items have in common: free caller data, the control, and the events of the control,
 /// which reach the panel with the item's position.
-class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> {
+class PanelItem : public Object,
+                  public std::enable_shared_from_this<PanelItem>,
+                  private host::ControlFollower {
  public:
+  ~PanelItem() override;
   /// The host's own.
-  const Variant& Tag() const { return tag_; }
-  void SetTag(const Variant& tag) { tag_ = tag; }
+  const Variant& Tag() const;
+  void SetTag(const Variant& tag);
 
  protected:
   friend class clsQRNCollection;
@@ -29,12 +33,13 @@ class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> 
   friend class SelectableList<PanelItem>;
 
   virtual void SetControl(host::UserControl& control);
-  /// Answers whether the item deals with the event; the names are those of the control's events.
-  virtual void controlEvent(std::string_view name, host::EventArgs arguments) = 0;
+  void controlEvent(std::string_view name, host::EventArgs arguments) override = 0;
   /// What the item knows of its control, or of one inside that.
   virtual void tellFacts(const host::Control& /*inside*/, host::AccessibleFacts&) const {}
 
-  host::UserControl* control() const { return control_.get(); }
+  host::UserControl* control() const { return control_; }
+  /// The same where it is a parameter's; null for an action.
+  virtual QRNEdit* row() const { return nullptr; }
   /// Errors: 0x80040001 once the control has gone.
   host::UserControl& requireControl() const;
   /// The panel whose control collection made the control; null once that has gone.
@@ -48,9 +53,10 @@ class PanelItem : public Object, public std::enable_shared_from_this<PanelItem> 
   bool commonEvent(QRNDisplay& panel, std::string_view name, host::EventArgs arguments);
 
  private:
-  Variant tag_;
-  WeakRef<host::UserControl> control_;
-  Connection events_;
+  void controlGone() override { control_ = nullptr; }
+
+  std::unique_ptr<Variant> tag_;  // none until the first is set
+  host::UserControl* control_ = nullptr;
   const SelectableList<PanelItem>::Entry* entry_ = nullptr;  // the item's own place in its collection
 };
 

@@ -60,11 +60,11 @@ std::intptr_t CommandButton::windowMessage(const Message& message) {
 }
 
 CommandButton* buttonOfMnemonic(const ContainerControl& container, std::int16_t letter) {
-  for (Control* control : container.keyboardArea().contained()) {
+  for (Control* control : container.keyboardArea().inside()) {
     if (!control->Visible() || !control->Enabled()) continue;
     if (auto* button = dynamic_cast<CommandButton*>(control); button && button->mnemonic() == letter)
       return button;
-    if (const auto* inner = dynamic_cast<const ContainerControl*>(control)) {
+    if (const ContainerControl* inner = control->asContainer()) {
       if (CommandButton* found = buttonOfMnemonic(*inner, letter)) return found;
     }
   }

@@ -1,6 +1,8 @@
 #include "host/container_control.h"
 
 #include <algorithm>
+#include <functional>
+#include <set>
 
 #include "host/user_control.h"
 
@@ -12,19 +14,27 @@ ContainerControl::~ContainerControl() {
   for (Control* control : contained_) control->container_ = nullptr;
 }
 
-void ContainerControl::contain(Control& control, UserControl& parent, std::string_view name) {
-  control.name_ = name;
+const std::string& ContainerControl::partName(std::string_view name) {
+  thread_local std::set<std::string, std::less<>> names;
+  const auto known = names.find(name);
+  return known == names.end() ? *names.emplace(name).first : *known;
+}
+
+void ContainerControl::put(Control& control, UserControl& parent, const std::string& name) {
+  control.name_ = &name;
   control.parent_ = &parent;
   control.container_ = this;
   contained_.push_back(&control);
+  strips_.reset();
   control.placed();
 }
 
 void ContainerControl::release(Control& control) {
+  control.invalidate();
   // Searched from the end: what goes is mostly what came last.
   const auto found = std::find(contained_.rbegin(), contained_.rend(), &control);
   if (found == contained_.rend()) return;
-  control.invalidate();
+  strips_.reset();
   contained_.erase(std::next(found).base());
   control.container_ = nullptr;
 }
@@ -32,7 +42,39 @@ void ContainerControl::release(Control& control) {
 void ContainerControl::bringToFront(Control& control) {
   const auto found = std::find(contained_.begin(), contained_.end(), &control);
   if (found != contained_.end()) std::rotate(found, found + 1, contained_.end());
+  strips_.reset();
   control.invalidate();
+}
+
+void ContainerControl::arrangeLater() {
+  if (unarranged_) return;
+  unarranged_ = true;
+  // While that is still to be done around it, everybody has been told.
+  const ContainerControl* around = Container();
+  if (!around || (around->rearranging_ == 0 && !around->unarranged_)) tellArranged();
+}
+
+void ContainerControl::arrange() {
+  unarranged_ = false;
+  ++rearranging_;  // whoever has to know has been told already
+  arrangeInside();
+  --rearranging_;
+}
+
+// The native widgets inside ask for their place, if there are any.
+void ContainerControl::tellArranged() {
+  input().tellInside(*this, Aspect::Place);
+  invalidate();
+}
+
+ContainerControl::Rearrangement::Rearrangement(ContainerControl& container) : container_(&container) {
+  ++container.rearranging_;
+}
+
+ContainerControl::Rearrangement::~Rearrangement() {
+  if (!container_) return;
+  auto& container = static_cast<ContainerControl&>(*container_);
+  if (--container.rearranging_ == 0) container.tellArranged();
 }
 
 Rect ContainerControl::pixelBounds(const Control& child) const {
@@ -41,27 +83,52 @@ Rect ContainerControl::pixelBounds(const Control& child) const {
   return {b.left * scale.x - offset.x, b.top * scale.y - offset.y, b.width * scale.x, b.height * scale.y};
 }
 
-Control* ContainerControl::childAt(Point pixels) const {
-  for (auto child = contained_.rbegin(); child != contained_.rend(); ++child) {
-    if ((*child)->Visible() && (*child)->Enabled() && pixelBounds(**child).contains(pixels)) return *child;
+template <class Visit>
+void ContainerControl::visit(double top, double bottom, bool topmostFirst, Visit&& visit) const {
+  constexpr std::size_t kMany = 64;
+  const auto& all = contained();
+  if (all.size() < kMany) {
+    for (std::size_t i = 0; i < all.size(); ++i) {
+      if (visit(*all[topmostFirst ? all.size() - 1 - i : i])) return;
+    }
+    return;
   }
-  return nullptr;
+  if (!strips_) {
+    strips_ = std::make_unique<StripIndex>();
+    strips_->build(all);
+  }
+  const double scale = pixelsPerUnit().y, offset = scrollOffset().y;
+  std::vector<std::uint32_t> there = strips_->between((top + offset) / scale, (bottom + offset) / scale);
+  if (topmostFirst) std::reverse(there.begin(), there.end());
+  for (const std::uint32_t place : there) {
+    if (visit(*all[place])) return;
+  }
+}
+
+Control* ContainerControl::childAt(Point pixels) const {
+  Control* hit = nullptr;
+  visit(pixels.y, pixels.y, true, [&](Control& child) {
+    if (child.Visible() && child.Enabled() && pixelBounds(child).contains(pixels)) hit = &child;
+    return hit != nullptr;
+  });
+  return hit;
 }
 
 void ContainerControl::paintTree(Surface& surface) {
   paint(surface, pixelSize());
   const Rect seen = surface.visible();
-  for (Control* child : contained_) {
-    if (!child->Visible() || child->peer()) continue;
-    const Rect place = pixelBounds(*child);
-    if (!place.intersects(seen)) continue;
+  visit(seen.top, seen.top + seen.height, false, [&](Control& child) {
+    if (!child.Visible() || child.peer()) return false;
+    const Rect place = pixelBounds(child);
+    if (!place.intersects(seen)) return false;
     surface.enter(place);
-    if (auto* container = dynamic_cast<ContainerControl*>(child))
+    if (auto* container = child.asContainer())
       container->paintTree(surface);
     else
-      child->paint(surface, place.size());
+      child.paint(surface, place.size());
     surface.leave();
-  }
+    return false;
+  });
 }
 
 }  // namespace qrn::host

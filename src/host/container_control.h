@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "host/control.h"
+#include "host/strip_index.h"
 
 namespace qrn::host {
 
@@ -12,11 +13,23 @@ class ContainerControl : public Control {
   ~ContainerControl() override;
 
   /// In painting order, the last one on top.
-  const std::vector<Control*>& contained() const { return contained_; }
+  const std::vector<Control*>& contained() const {
+    const_cast<ContainerControl*>(this)->settle();
+    return contained_;
+  }
   /// Where the keyboard is, be it by letters of buttons or by the walk; what shows one of its children at a
   /// time answers that one.
   virtual const ContainerControl& keyboardArea() const { return *this; }
-  void contain(Control& control, UserControl& parent, std::string_view name);
+  ContainerControl* asContainer() override { return this; }
+  /// Somebody has asked where things are since they were last to be arranged.
+  bool seen() const { return !unarranged_; }
+  /// What has been made of it so far, arranged or not.
+  const std::vector<Control*>& inside() const { return contained_; }
+  void contain(Control& control, UserControl& parent, std::string_view name) {
+    put(control, parent, partName(name));
+  }
+  /// Keeps the names that parts are built in with, of which there are a handful.
+  static const std::string& partName(std::string_view name);
   void release(Control& control);
   void bringToFront(Control& control);
 
@@ -32,14 +45,55 @@ class ContainerControl : public Control {
   /// Draws this control and everything in it that has no native widget.
   void paintTree(Surface& surface);
 
+  /// Many controls are about to be moved: while one of these lives, nothing is painted and no native widget
+  /// inside is told; at its end all are, at once. The container may go meanwhile.
+  class Rearrangement {
+   public:
+    explicit Rearrangement(ContainerControl& container);
+    Rearrangement(const Rearrangement&) = delete;
+    Rearrangement& operator=(const Rearrangement&) = delete;
+    ~Rearrangement();
+
+   private:
+    WeakRef<Control> container_;
+  };
+
  protected:
   // What lies inside has come along.
   void placed() override {
     for (Control* control : contained_) control->placed();
   }
 
+  /// Has what lies inside arranged when somebody asks where it is, be that the painter, the mouse or a native
+  /// widget.
+  void arrangeLater();
+  /// Does now what is still to be done, the outermost first.
+  void settle() {
+    if (Container()) Container()->settle();
+    if (unarranged_) arrange();
+  }
+  virtual void arrangeInside() {}
+  /// Nothing has been arranged yet.
+  void startUnarranged() { unarranged_ = true; }
+
  private:
+  friend class Control;
+  friend class Controls;
+  friend struct LifeCycle;
+
+  void arrange();
+  void tellArranged();
+  void put(Control& control, UserControl& parent, const std::string& name);
+
+  /// Calls for each child that may reach into what lies between two heights in pixels, the last one on top,
+  /// until it is answered with true.
+  template <class Visit>
+  void visit(double top, double bottom, bool topmostFirst, Visit&& visit) const;
+
+  std::int8_t rearranging_ = 0;
+  bool unarranged_ = false;
   std::vector<Control*> contained_;
+  mutable std::unique_ptr<StripIndex> strips_;  // of many, and as long as none has moved, come or gone
 };
 
 }  // namespace qrn::host

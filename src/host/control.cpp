@@ -33,18 +33,26 @@ class ControlWindow final : public WindowOwner {
   WindowHandle handle_;
 };
 
-struct Control::Rare {
-  std::string toolTip;
-  std::unique_ptr<ControlWindow> window;
-};
+const std::string Control::kNoName;
+
+Control::Rare::Rare() = default;
+
+Control::Rare::~Rare() = default;
 
 Control::Control() = default;
 
 Control::~Control() {
+  if (follower_) follower_->controlGone();
   if (container_) {
     if (UserControl& top = root(); &top != this) top.input().forget(*this);
     container_->release(*this);
   }
+}
+
+void Control::raiseByName(std::string_view name, EventArgs arguments) {
+  const WeakRef<Control> self(this);
+  if (follower_) follower_->controlEvent(name, arguments);
+  if (self) ObjectEvent.raise(name, arguments);
 }
 
 Control::Rare& Control::rare() {
@@ -71,10 +79,21 @@ void Control::SetEnabled(bool enabled) {
   if (change(enabled_, enabled, Aspect::Enabled) && isOnSurface) input().tellInside(*this, Aspect::Enabled);
 }
 
+const Rect& Control::bounds() const {
+  if (container_) container_->settle();
+  return bounds_;
+}
+
 void Control::Move(double left, double top, double width, double height) {
   const Rect target{left, top, width, height};
-  if (target == bounds_) return;
-  const Rect before = bounds_;
+  const Rect before = bounds();
+  if (target == before) return;
+  if (container_) container_->strips_.reset();
+  if (container_ && container_->rearranging_) {
+    bounds_ = target;
+    moved(before);
+    return;
+  }
   invalidate();
   bounds_ = target;
   tellPlace();
@@ -90,7 +109,7 @@ const std::string& Control::ToolTipText() const {
 void Control::SetToolTipText(std::string_view text) {
   if (text == ToolTipText()) return;
   rare().toolTip = text;
-  if (peer_) peer_->changed(Aspect::Look);
+  if (peer()) peer()->changed(Aspect::Look);
 }
 
 void Control::SetFocus() {
@@ -104,7 +123,7 @@ bool Control::enabledUpToSurface() const {
 
 // The native widgets inside move, appear and vanish along with what they lie in.
 void Control::tellPlace() {
-  if (peer_) peer_->changed(Aspect::Place);
+  if (peer()) peer()->changed(Aspect::Place);
   if (container_) input().tellInside(*this, Aspect::Place);
 }
 
@@ -146,17 +165,18 @@ Input& Control::input() const { return root().input(); }
 Platform& Control::platform() const { return root().site().platform(); }
 
 void Control::realise() {
-  if (peer_) return;
-  peer_ = platform().realise(*this);
-  if (!peer_) return;
+  if (peer()) return;
+  std::unique_ptr<Peer> made = platform().realise(*this);
+  if (!made) return;
+  rare().peer = std::move(made);
   if (container_) input().remember(*this);
   realised();
 }
 
 void Control::dropPeer() {
-  if (!peer_) return;
+  if (!peer()) return;
   if (container_) input().forgetPeer(*this);
-  peer_.reset();
+  rare_->peer.reset();
   invalidate();
 }
 
@@ -198,11 +218,11 @@ void Control::invalidate() { invalidate({{}, {}, 1e9, 1e9}); }
 // The control whose native widget shows this one: itself, one around it, or none while nothing is on screen.
 const Control* Control::paintedBy() const {
   const Control* control = this;
-  while (!control->peer_ && control->container_) {
+  while (!control->peer() && control->container_) {
     if (!control->visible_) return nullptr;
     control = control->container_;
   }
-  return control->visible_ && control->peer_ ? control : nullptr;
+  return control->visible_ && control->peer() ? control : nullptr;
 }
 
 void Control::invalidate(const Rect& pixels) {
@@ -217,19 +237,19 @@ void Control::invalidate(const Rect& pixels) {
     const ContainerControl& container = *control->container_;
     area = clipped(area.translated(container.pixelBounds(*control).topLeft()), container);
   }
-  if (!area.empty()) painter->peer_->invalidate(area);
+  if (!area.empty()) painter->peer()->invalidate(area);
 }
 
 void Control::touched(Aspect aspect) {
-  if (peer_)
-    peer_->changed(aspect);
+  if (peer())
+    peer()->changed(aspect);
   else
     invalidate();
   tellTools(aspect);
 }
 
 void Control::touchedByUser(Aspect aspect) {
-  if (!peer_) invalidate();
+  if (!peer()) invalidate();
   tellTools(aspect);
 }
 
@@ -239,7 +259,7 @@ void Control::touchedByUser(Aspect aspect) {
 void Control::tellTools(Aspect aspect) {
   const Control* top = this;
   while (top->container_) top = top->container_;
-  if (top->peer_) top->peer_->accessibleChanged(*this, aspect);
+  if (top->peer()) top->peer()->accessibleChanged(*this, aspect);
 }
 
 AccessibleFacts Control::accessibleFacts() const {

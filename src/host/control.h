@@ -24,6 +24,18 @@ class UserControl;
 /// When a control gets a native widget.
 enum class PeerPolicy : std::uint8_t { Never, WhenFocused, WhenShown, Surface };
 
+/// Whoever belongs to one control and hears of all its events before any listener, at the cost of a pointer.
+/// It lets go of the control when it goes itself.
+class ControlFollower {
+ public:
+  virtual void controlEvent(std::string_view name, EventArgs arguments) = 0;
+  /// The control is about to go.
+  virtual void controlGone() = 0;
+
+ protected:
+  ~ControlFollower() = default;
+};
+
 /// Everything that sits on a container. The public part is what a container adds to any control: its name and
 /// place, its visibility, the focus, and its events by name.
 class Control : public Object {
@@ -34,7 +46,7 @@ class Control : public Object {
   ~Control() override;
 
   /// Under which the holder has it.
-  const std::string& Name() const { return name_; }
+  const std::string& Name() const { return *name_; }
   /// The user control whose collection made this one; null for one that the host made.
   UserControl* Parent() const { return parent_; }
   /// Gives coordinates and clipping only.
@@ -51,14 +63,15 @@ class Control : public Object {
   void SetTabIndex(std::int32_t index) { tabIndex_ = index; }
 
   /// From the left edge of the container, in its scale units, as the other three.
-  double Left() const { return bounds_.left; }
+  double Left() const { return bounds().left; }
   /// From the upper edge of the container.
-  double Top() const { return bounds_.top; }
+  double Top() const { return bounds().top; }
   /// With its frame.
-  double Width() const { return bounds_.width; }
+  double Width() const { return bounds().width; }
   /// With its frame.
-  double Height() const { return bounds_.height; }
-  const Rect& bounds() const { return bounds_; }
+  double Height() const { return bounds().height; }
+  /// The container arranges what lies in it no sooner than somebody asks.
+  const Rect& bounds() const;
   void SetLeft(double left) { Move(left, Top(), Width(), Height()); }
   void SetTop(double top) { Move(Left(), top, Width(), Height()); }
   void SetWidth(double width) { Move(Left(), Top(), width, Height()); }
@@ -82,16 +95,21 @@ class Control : public Object {
 
   /// Every event of the control by its name, arguments by reference.
   Event<std::string_view /*name*/, EventArgs /*arguments*/> ObjectEvent;
+  /// Tells of an event by its name only: whoever follows the control first, then those who listen.
+  void raiseByName(std::string_view name, EventArgs arguments);
 
   // ---- between controls and platforms ----
 
   Anchor& anchor() { return anchor_; }
+  void follow(ControlFollower* follower) { follower_ = follower; }
   Platform& platform() const;
   UserControl& root() const;
   Input& input() const;
 
-  Peer* peer() const { return peer_.get(); }
+  Peer* peer() const { return rare_ ? rare_->peer.get() : nullptr; }
   virtual PeerPolicy peerPolicy() const { return PeerPolicy::Never; }
+  virtual UserControl* asUserControl() { return nullptr; }
+  virtual ContainerControl* asContainer() { return nullptr; }
   /// Makes the native widget if there is none yet and the platform has one for this control.
   void realise();
   void dropPeer();
@@ -169,13 +187,12 @@ class Control : public Object {
   void raise(Event<Args...>& event, std::string_view name, std::type_identity_t<Args>... args) {
     const WeakRef<Control> self(this);
     event.raise(args...);
-    if (self && ObjectEvent.hasListeners()) {
-      if constexpr (sizeof...(Args) == 0) {
-        ObjectEvent.raise(name, EventArgs());
-      } else {
-        const EventArg list[] = {EventArg(args)...};
-        ObjectEvent.raise(name, EventArgs(list));
-      }
+    if (!self || (!follower_ && !ObjectEvent.hasListeners())) return;
+    if constexpr (sizeof...(Args) == 0) {
+      raiseByName(name, EventArgs());
+    } else {
+      const EventArg list[] = {EventArg(args)...};
+      raiseByName(name, EventArgs(list));
     }
   }
 
@@ -194,16 +211,25 @@ class Control : public Object {
  private:
   const Control* paintedBy() const;
 
-  struct Rare;  // what few controls have
+  // What few controls have.
+  struct Rare {
+    Rare();
+    ~Rare();
+    std::unique_ptr<Peer> peer;
+    std::string toolTip;
+    std::unique_ptr<ControlWindow> window;
+  };
   Rare& rare();
   void tellPlace();
   void tellTools(Aspect aspect);
 
-  std::string name_;
+  static const std::string kNoName;
+
+  const std::string* name_ = &kNoName;
   UserControl* parent_ = nullptr;
   ContainerControl* container_ = nullptr;
   Rect bounds_;
-  std::unique_ptr<Peer> peer_;
+  ControlFollower* follower_ = nullptr;
   std::unique_ptr<Rare> rare_;
   Anchor anchor_;
   std::int32_t tabIndex_ = 0;

@@ -18,6 +18,10 @@ void Editor::fontChanged() {
   touched(Aspect::Look);
 }
 
+void Editor::forgetMeasures() {
+  if (Parent()) Parent()->childMeasureChanged(*this);
+}
+
 double Editor::measured(std::string_view text) const {
   const UserControl& holder = *Parent();
   FontMetrics& metrics = font_ ? platform().metrics(*font_) : holder.fontMetrics();

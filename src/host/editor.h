@@ -36,7 +36,7 @@ class Editor : public Control {
   /// In the editor's font and the holder's scale units.
   double measured(std::string_view text) const;
   /// What was measured in the font before is worth nothing now.
-  virtual void forgetMeasures() {}
+  virtual void forgetMeasures();
 
  private:
   FontPtr font_;

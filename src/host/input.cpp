@@ -47,7 +47,7 @@ bool reachedByKeyboard(const Control& control) {
 
 Control* Input::hit(Point at) const {
   Control* found = root_;
-  while (auto* container = dynamic_cast<ContainerControl*>(found)) {
+  while (auto* container = found->asContainer()) {
     Control* child = container->childAt(at);
     if (!child) break;
     at = at - container->pixelBounds(*child).topLeft();

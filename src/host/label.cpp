@@ -28,8 +28,7 @@ std::string shortened(std::string_view text, double room, FontMetrics& metrics) 
 void Label::SetCaption(std::string_view caption) {
   if (caption == caption_) return;
   caption_ = caption;
-  textWidth_ = kUnknown;
-  invalidate();
+  forgetMeasure();
 }
 
 double Label::textWidth() const {
@@ -37,8 +36,9 @@ double Label::textWidth() const {
   return textWidth_;
 }
 
-void Label::fontChanged() {
+void Label::forgetMeasure() {
   textWidth_ = kUnknown;
+  if (Parent()) Parent()->childMeasureChanged(*this);
   invalidate();
 }
 

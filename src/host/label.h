@@ -23,12 +23,14 @@ class Label final : public Control {
 
   /// The width of the caption in the holder's scale units. Measured once for each text and font.
   double textWidth() const;
-  void fontChanged() override;
+  void fontChanged() override { forgetMeasure(); }
 
   void paint(Surface& surface, Size size) override;
 
  private:
   static constexpr double kUnknown = -1;
+
+  void forgetMeasure();
 
   std::string caption_;
   mutable double textWidth_ = kUnknown;

@@ -60,7 +60,7 @@ double ListEditor::widestText() const {
 }
 
 void ListEditor::entriesChanged() {
-  widest_ = kUnknown;
+  forgetMeasures();
   touched(Aspect::Entries);
 }
 

@@ -55,7 +55,10 @@ class ListEditor : public Editor {
 
   const Entry& entry(std::int32_t index) const;
   Entry& entry(std::int32_t index) { return const_cast<Entry&>(std::as_const(*this).entry(index)); }
-  void forgetMeasures() override { widest_ = kUnknown; }
+  void forgetMeasures() override {
+    widest_ = kUnknown;
+    Editor::forgetMeasures();
+  }
 
   std::vector<Entry> entries_;
   std::int32_t listIndex_ = -1;

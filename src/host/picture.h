@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/geometry.h"
 #include "runtime/object.h"
 
 namespace qrn::host {
@@ -30,6 +31,7 @@ class Picture final : public Object {
   /// Logical pixels.
   double width() const { return bitmap(1).width; }
   double height() const { return bitmap(1).height; }
+  Size size() const { return {width(), height()}; }
 
   /// Has no pixels at all; a picture of transparent pixels is not empty.
   bool empty() const { return scales_.empty(); }

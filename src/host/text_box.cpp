@@ -9,7 +9,7 @@
 namespace qrn::host {
 void TextBox::store(std::string text) {
   text_ = std::move(text);
-  textWidth_ = kUnknown;
+  forgetMeasures();
 }
 
 void TextBox::SetText(std::string_view text) {
@@ -20,8 +20,8 @@ void TextBox::SetText(std::string_view text) {
 }
 
 void TextBox::SetPasswordChar(std::string_view character) {
-  if (character == passwordChar_) return;
-  passwordChar_ = character;
+  if (character == PasswordChar()) return;
+  passwordChar_ = character.empty() ? nullptr : std::make_unique<std::string>(character);
   touched(Aspect::Look);
 }
 
@@ -31,9 +31,9 @@ void TextBox::select(std::int32_t start, std::int32_t length) {
 }
 
 std::string TextBox::shownText() const {
-  if (passwordChar_.empty()) return text_;
+  if (!passwordChar_) return text_;
   std::string stars;
-  for (std::size_t i = text::length(text_); i > 0; --i) stars += passwordChar_;
+  for (std::size_t i = text::length(text_); i > 0; --i) stars += *passwordChar_;
   return stars;
 }
 
@@ -72,7 +72,7 @@ void TextBox::tellFacts(AccessibleFacts& facts) const {
   facts.role = AccessibleRole::Text;
   facts.value = shownText();
   facts.states.readOnly = locked_;
-  facts.states.secret = !passwordChar_.empty();
+  facts.states.secret = passwordChar_ != nullptr;
 }
 
 bool TextBox::accessibleEnter(std::string_view text) {

@@ -20,7 +20,7 @@ class TextBox final : public Editor {
   std::int32_t MaxLength() const { return maxLength_; }
   void SetMaxLength(std::int32_t length) { change(maxLength_, length, Aspect::Look); }
   /// Shown for every character; empty shows the text.
-  const std::string& PasswordChar() const { return passwordChar_; }
+  std::string_view PasswordChar() const { return passwordChar_ ? *passwordChar_ : std::string_view(); }
   void SetPasswordChar(std::string_view character);
   bool upperCase() const { return upperCase_; }
   void setUpperCase(bool upperCase) { change(upperCase_, upperCase, Aspect::Look); }
@@ -44,7 +44,10 @@ class TextBox final : public Editor {
   void windowStyleChanged(std::intptr_t style) override;
 
  protected:
-  void forgetMeasures() override { textWidth_ = kUnknown; }
+  void forgetMeasures() override {
+    textWidth_ = kUnknown;
+    Editor::forgetMeasures();
+  }
   void tellFacts(AccessibleFacts& facts) const override;
   bool accessibleEnter(std::string_view text) override;
 
@@ -54,7 +57,7 @@ class TextBox final : public Editor {
   static constexpr double kUnknown = -1;
 
   std::string text_;
-  std::string passwordChar_;
+  std::unique_ptr<std::string> passwordChar_;  // null while the text is shown
   mutable double textWidth_ = kUnknown;
   std::int32_t maxLength_ = 0;
   std::int32_t selStart_ = 0;

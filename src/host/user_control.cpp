@@ -27,9 +27,14 @@ Point pixelsOf(std::int16_t scaleMode) {
 
 }  // namespace
 
-UserControl::UserControl() : controls_(std::make_unique<Controls>(*this)) {}
+UserControl::UserControl() = default;
 
 UserControl::~UserControl() = default;
+
+Controls& UserControl::controls() {
+  if (!controls_) controls_ = std::make_unique<Controls>(*this);
+  return *controls_;
+}
 
 Input& UserControl::input() {
   if (Container()) return root().input();
@@ -75,7 +80,7 @@ bool UserControl::propertyChanged(std::string_view key) {
 void UserControl::setFont(FontPtr font) {
   font_ = font ? std::move(font) : platform().defaultFont();
   metrics_ = nullptr;
-  for (Control* part : contained()) {
+  for (Control* part : inside()) {
     if (part->Parent() == this) part->fontChanged();
   }
   invalidate();
@@ -103,9 +108,10 @@ void UserControl::visibilityChanged() {
     hide();
 }
 
-void UserControl::gotFocus() { raise(GotFocus, "GotFocus"); }
+// What a container hears of the focus of its controls, by name only.
+void UserControl::gotFocus() { raiseByName("GotFocus", {}); }
 
-void UserControl::lostFocus() { raise(LostFocus, "LostFocus"); }
+void UserControl::lostFocus() { raiseByName("LostFocus", {}); }
 
 void LifeCycle::start(UserControl& control, Site& site, const PropertyBag* bag) {
   control.site_ = &site;
@@ -127,28 +133,29 @@ void LifeCycle::enter(UserControl& control) {
   if (control.Visible()) control.show();
 }
 
-void LifeCycle::startChild(Control& control, UserControl& parent, std::string_view name,
+void LifeCycle::startChild(Control& control, UserControl& parent, const std::string& name,
                            ContainerControl& container) {
-  auto* user = dynamic_cast<UserControl*>(&control);
+  UserControl* user = control.asUserControl();
   if (!user) {
-    container.contain(control, parent, name);
+    container.put(control, parent, name);
     return;
   }
   user->site_ = &parent;
   user->font_ = parent.font();
   user->alive_ = true;
   user->initialize();
-  container.contain(control, parent, name);
+  container.put(control, parent, name);
   user->initProperties();
   enter(*user);
 }
 
 void LifeCycle::end(Control& control) {
-  auto* user = dynamic_cast<UserControl*>(&control);
+  UserControl* user = control.asUserControl();
   if (!user) return;
+  user->unarranged_ = false;  // nobody will look at it any more
   if (user->alive_) user->terminate();
   user->alive_ = user->running_ = false;
-  user->controls_->clear();
+  if (user->controls_) user->controls_->clear();
 }
 
 void Destroyer::operator()(Control* control) const {
@@ -163,10 +170,10 @@ Control& Controls::add(std::string_view progId, std::string_view name, Container
 Control& Controls::add(Owned<Control> control, std::string_view name, ContainerControl& container) {
   if (list_.find(name) || ownPart(name)) raiseRunTimeError(kControlNameUsed, owner_.typeName());
   Control& added = *control;
-  list_.add(std::string(name), std::move(control));
+  const std::string& kept = list_.add(std::string(name), std::move(control)).key;
   const WeakRef<Control> guard(&added);
   try {
-    LifeCycle::startChild(added, owner_, name, container);
+    LifeCycle::startChild(added, owner_, kept, container);
   } catch (...) {
     if (guard && find(name) == &added) remove(name);
     throw;
@@ -176,7 +183,7 @@ Control& Controls::add(Owned<Control> control, std::string_view name, ContainerC
 
 // The parts that the owner was built with bear names too, but are not in the collection.
 bool Controls::ownPart(std::string_view name) const {
-  const auto& parts = owner_.contained();
+  const auto& parts = owner_.inside();
   return std::any_of(parts.begin(), parts.end(),
                      [&](const Control* c) { return text::sameName(c->Name(), name); });
 }
@@ -184,11 +191,10 @@ bool Controls::ownPart(std::string_view name) const {
 void Controls::remove(std::string_view name) {
   const auto* entry = list_.find(name);
   if (!entry) raiseRunTimeError(kControlNotFound, owner_.typeName());
-  // The name may be the control's own.
-  const std::string removed(name);
   const WeakRef<Control> owner(&owner_);
-  list_.take(entry->position).reset();
-  if (owner) owner_.controlRemoved(removed);
+  const auto gone = list_.takeEntry(entry->position);  // with its name, which may be the one given
+  gone->value.reset();
+  if (owner) owner_.controlRemoved(gone->key);
 }
 
 Control* Controls::find(std::string_view name) const {
@@ -197,7 +203,7 @@ Control* Controls::find(std::string_view name) const {
 }
 
 void Controls::clear() {
-  while (list_.count() > 0) const Owned<Control> gone = list_.take(list_.count());
+  while (list_.count() > 0) const auto gone = list_.takeEntry(list_.count());
 }
 
 }  // namespace qrn::host

@@ -27,8 +27,7 @@ class UserControl : public ContainerControl, public Site {
 
   Site& site() const { return *site_; }
   bool userMode() const { return site_->ambient().userMode; }
-  Controls& controls() { return *controls_; }
-  const Controls& controls() const { return *controls_; }
+  Controls& controls();
   Input& input();
 
   double ScaleWidth() const { return pixelSize().width / pixelsPerUnit().x; }
@@ -50,6 +49,7 @@ class UserControl : public ContainerControl, public Site {
   Platform& platform() const override { return site_->platform(); }
   Ambient ambient() const override;
 
+  UserControl* asUserControl() override { return this; }
   PeerPolicy peerPolicy() const override { return Container() ? PeerPolicy::Never : PeerPolicy::Surface; }
 
   /// Keys go to our own controls rather than to a dialog around them.
@@ -72,6 +72,11 @@ class UserControl : public ContainerControl, public Site {
   virtual void childChanged(Control&) {}
   virtual void childClicked(Control&) {}
   virtual void childItemChecked(Control&, std::int16_t /*item*/) {}
+  /// A part, or something inside it, may need another size from now on than it did when it was measured.
+  virtual void childMeasureChanged(Control& /*part*/) { tellMeasureChanged(); }
+  void tellMeasureChanged() {
+    if (Parent()) Parent()->childMeasureChanged(*this);
+  }
   /// The child's window has been made, and can be hooked.
   virtual void childWindowMade(Control&) {}
   virtual void childGotFocus(Control&) {}
@@ -132,17 +137,13 @@ class UserControl : public ContainerControl, public Site {
   std::int16_t scaleMode_ = 3;
   bool alive_ = false;    // between initialize and terminate
   bool running_ = false;  // from the first resize on
-
- protected:
-  /// Raised by name only: what a container hears of the focus of its controls.
-  Event<> GotFocus;
-  Event<> LostFocus;
 };
 
 /// The steps of a control's life, in their fixed order.
 struct LifeCycle {
   static void start(UserControl& control, Site& site, const PropertyBag* bag);
-  static void startChild(Control& control, UserControl& parent, std::string_view name,
+  /// The name lives as long as the control.
+  static void startChild(Control& control, UserControl& parent, const std::string& name,
                          ContainerControl& container);
   static void end(Control& control);
 

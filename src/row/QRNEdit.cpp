@@ -9,7 +9,6 @@ namespace qrn {
 namespace {
 
 constexpr double kDesignWidth = 320;
-constexpr double kDesignPartWidth = 100;
 
 }  // namespace
 
@@ -18,14 +17,9 @@ QRNEdit::QRNEdit() = default;
 QRNEdit::~QRNEdit() = default;
 
 void QRNEdit::initialize() {
-  contain(lblLabel_, *this, "lblLabel");
-  contain(icon1_.image, *this, "imgIcon1");
-  contain(icon2_.image, *this, "imgIcon2");
-  contain(lblUnit_, *this, "lblUnit");
-  lblLabel_.SetCaption("Label");
-  lblUnit_.SetCaption("Unit");
-  lblLabel_.Move(0, 0, kDesignPartWidth, textHeight());
-  lblUnit_.Move(0, 0, kDesignPartWidth, textHeight());
+  startUnarranged();
+  label_.text = "Label";
+  unit_.text = "Unit";
   Move(0, 0, kDesignWidth, GetMinHeight());
 }
 
@@ -60,6 +54,7 @@ void QRNEdit::switchRedraw(bool redraw) {
 
 void QRNEdit::SetScaleMode(std::int16_t mode) {
   const Point before = pixelsPerUnit();
+  if (parts_) settle();
   setScaleMode(mode);
   rescaleParts(before);
   if (auto* composite = compositeEditor()) composite->SetScaleMode(mode);
@@ -71,6 +66,8 @@ void QRNEdit::SetScaleMode(std::int16_t mode) {
 void QRNEdit::rescaleParts(Point pixelsBefore) {
   const Point now = pixelsPerUnit();
   const double x = pixelsBefore.x / now.x, y = pixelsBefore.y / now.y;
+  for (double* width : {&labelWidth_, &valueWidth_, &unitWidth_}) *width *= x;
+  if (!parts_) return;
   for (host::Control* part : contained()) {
     const Rect place = part->bounds();
     part->Move(place.left * x, place.top * y, place.width * x, place.height * y);
@@ -80,7 +77,7 @@ void QRNEdit::rescaleParts(Point pixelsBefore) {
 void QRNEdit::SetBackColor(host::Color color) {
   if (color == backColor()) return;
   setBackColor(color);
-  if (chkValue_) chkValue_->Check().SetBackColor(color);
+  if (chkValue()) chkValue()->Check().SetBackColor(color);
   propertyChanged("BackColor");
 }
 
@@ -93,8 +90,10 @@ void QRNEdit::SetForeColor(host::Color color) {
 void QRNEdit::SetEnabled(bool enabled) {
   if (enabled == Enabled()) return;
   UserControl::SetEnabled(enabled);
-  lblLabel_.SetEnabled(enabled);
-  lblUnit_.SetEnabled(enabled);
+  if (parts_) {
+    parts_->lblLabel.SetEnabled(enabled);
+    parts_->lblUnit.SetEnabled(enabled);
+  }
   applyEnabled();
   propertyChanged("Enabled");
 }
@@ -105,57 +104,74 @@ void QRNEdit::SetFont(host::FontPtr font) {
   if (propertyChanged("Font")) layOut();
 }
 
-std::int32_t QRNEdit::widthOf(const host::Control& part) { return nearestLong(roundHalfEven(part.Width())); }
+std::int32_t QRNEdit::wholeWidth(double width) { return nearestLong(roundHalfEven(width)); }
 
-void QRNEdit::setPartWidth(host::Control& part, std::int32_t width, std::string_view key) {
-  if (width == widthOf(part)) return;
-  part.SetWidth(width);
+void QRNEdit::setWidth(double& part, std::int32_t width, std::string_view key) {
+  if (width == wholeWidth(part)) return;
+  keepArrangement();
+  part = width;
+  if (parts_ && !redraw_) applyWidths();
+  tellMeasureChanged();
   if (propertyChanged(key)) layOut();
 }
 
-void QRNEdit::setPartToolTip(host::Control& part, const std::string& text, std::string_view key) {
-  if (text == part.ToolTipText()) return;
-  part.SetToolTipText(text);
+const std::string& QRNEdit::toolTip(std::string RowToolTips::*part) const {
+  static const RowToolTips none;
+  return (toolTips_ ? *toolTips_ : none).*part;
+}
+
+void QRNEdit::setToolTip(std::string RowToolTips::*part, const std::string& text, std::string_view key) {
+  if (text == toolTip(part)) return;
+  if (!toolTips_) toolTips_ = std::make_unique<RowToolTips>();
+  (*toolTips_).*part = text;
+  if (parts_) applyToolTips();
   propertyChanged(key);
 }
 
-void QRNEdit::setPartCaption(host::Label& part, const std::string& text, std::string_view key) {
-  if (text == part.Caption()) return;
-  part.SetCaption(text);
+void QRNEdit::setText(RowText& part, const std::string& text, std::string_view key) {
+  if (text == part.text) return;
+  part.text = text;
+  forgetMeasure(&part == &label_ ? &Measures::label : &Measures::unit);
+  if (parts_) labelOf(part).SetCaption(text);
+  propertyChanged(key);
+}
+
+void QRNEdit::setTextAlignment(RowText& part, std::int32_t alignment, std::string_view key) {
+  if (alignment == part.alignment) return;
+  part.alignment = alignment;
+  if (parts_) labelOf(part).SetAlignment(alignment);
   propertyChanged(key);
 }
 
 void QRNEdit::SetLabelAlignment(std::int32_t alignment) {
-  if (alignment == lblLabel_.Alignment()) return;
-  lblLabel_.SetAlignment(alignment);
-  propertyChanged("LabelAlignment");
+  setTextAlignment(label_, alignment, "LabelAlignment");
 }
 
 void QRNEdit::SetUnitAlignment(std::int32_t alignment) {
-  if (alignment == lblUnit_.Alignment()) return;
-  lblUnit_.SetAlignment(alignment);
-  propertyChanged("UnitAlignment");
+  setTextAlignment(unit_, alignment, "UnitAlignment");
 }
 
-void QRNEdit::setIconPicture(Icon& icon, host::PicturePtr picture, std::string_view key) {
-  if (picture == icon.image.Picture()) return;
-  const Rect before = icon.image.bounds();
-  icon.image.SetPicture(std::move(picture));
-  const bool resized = before.size() != icon.image.bounds().size();
+void QRNEdit::setIconPicture(RowIcon& icon, host::PicturePtr picture, std::string_view key) {
+  if (picture == icon.picture) return;
+  keepArrangement();
+  const auto sizeOf = [](const host::PicturePtr& one) { return one ? one->size() : Size{}; };
+  const bool resized = sizeOf(picture) != sizeOf(icon.picture);
+  icon.picture = std::move(picture);
+  if (parts_) imageOf(icon).SetPicture(icon.picture);
   if (propertyChanged(key) && resized) layOut();
 }
 
-void QRNEdit::setIconHidden(Icon& icon, bool hidden, std::string_view key) {
+void QRNEdit::setIconHidden(RowIcon& icon, bool hidden, std::string_view key) {
   if (hidden == icon.hidden) return;
   icon.hidden = hidden;
-  applyIconVisibility();
+  if (parts_) imageOf(icon).SetVisible(icon.shown());
   propertyChanged(key);
 }
 
-std::int32_t QRNEdit::ValueWidth() const { return editorFrame() ? widthOf(*editorFrame()) : 0; }
+std::int32_t QRNEdit::ValueWidth() const { return editorFrame() ? wholeWidth(valueWidth_) : 0; }
 
 void QRNEdit::SetValueWidth(std::int32_t width) {
-  if (host::Control* frame = editorFrame()) setPartWidth(*frame, width, "ValueWidth");
+  if (editorFrame()) setWidth(valueWidth_, width, "ValueWidth");
 }
 
 const std::string& QRNEdit::ValueToolTip() const {
@@ -169,11 +185,11 @@ void QRNEdit::SetValueToolTip(const std::string& text) {
   if (!editor || text == editor->ToolTipText()) return;
   editor->SetToolTipText(text);
   // A disabled check box shows no tool tip; what lies under it does.
-  if (chkValue_) chkValue_->SetToolTipText(text);
+  if (chkValue()) chkValue()->SetToolTipText(text);
   propertyChanged("ValueToolTip");
 }
 
-void QRNEdit::setIconMode(Icon& icon, qrnButtonMode mode, std::string_view key) {
+void QRNEdit::setIconMode(RowIcon& icon, qrnButtonMode mode, std::string_view key) {
   if (mode == qrnbuttonNone && isTracked(icon)) stopTracking();
   storeAndLayOut(icon.mode, mode, key);
 }
@@ -229,7 +245,7 @@ void QRNEdit::SetValueFormat(const std::string& format) {
 }
 
 void QRNEdit::SetSelection(std::int32_t StartSel, std::int32_t SelLength) {
-  if (txtValue_) txtValue_->select(StartSel, SelLength);
+  if (txtValue()) txtValue()->select(StartSel, SelLength);
 }
 
 }  // namespace qrn

@@ -10,11 +10,10 @@
 #include "enums/enumerations.h"
 #include "hooks/clsQRNEDitSubClass.h"
 #include "host/editor.h"
-#include "host/image.h"
-#include "host/label.h"
 #include "host/text_box.h"
 #include "host/timer.h"
 #include "host/user_control.h"
+#include "row/row_parts.h"
 #include "row/value_settings.h"
 #include "values/QRNBitList.h"
 #include "values/QRNCheck.h"
@@ -64,17 +63,17 @@ class QRNEdit final : public host::UserControl {
 
   // ---- the caption ----
   /// Of the caption's column; the panel sets it.
-  std::int32_t LabelWidth() const { return widthOf(lblLabel_); }
-  void SetLabelWidth(std::int32_t width) { setPartWidth(lblLabel_, width, "LabelWidth"); }
+  std::int32_t LabelWidth() const { return wholeWidth(labelWidth_); }
+  void SetLabelWidth(std::int32_t width) { setWidth(labelWidth_, width, "LabelWidth"); }
   /// Of the text in its column: 0 left, 1 right, 2 centre.
-  std::int32_t LabelAlignment() const { return lblLabel_.Alignment(); }
+  std::int32_t LabelAlignment() const { return label_.alignment; }
   void SetLabelAlignment(std::int32_t alignment);
   /// What shows when the mouse rests there.
-  const std::string& LabelToolTip() const { return lblLabel_.ToolTipText(); }
-  void SetLabelToolTip(const std::string& text) { setPartToolTip(lblLabel_, text, "LabelToolTip"); }
+  const std::string& LabelToolTip() const { return toolTip(&RowToolTips::label); }
+  void SetLabelToolTip(const std::string& text) { setToolTip(&RowToolTips::label, text, "LabelToolTip"); }
   /// The text itself. Nothing is laid out for another one.
-  const std::string& LabelText() const { return lblLabel_.Caption(); }
-  void SetLabelText(const std::string& text) { setPartCaption(lblLabel_, text, "LabelText"); }
+  const std::string& LabelText() const { return label_.text; }
+  void SetLabelText(const std::string& text) { setText(label_, text, "LabelText"); }
   /// Whether it takes part in the row.
   bool LabelVisible() const { return labelVisible_; }
   void SetLabelVisible(bool visible) { storeAndLayOut(labelVisible_, visible, "LabelVisible"); }
@@ -84,10 +83,10 @@ class QRNEdit final : public host::UserControl {
   std::int32_t Icon1Column() const { return icon1_.column; }
   void SetIcon1Column(std::int32_t column) { storeAndLayOut(icon1_.column, column, "Icon1Column"); }
   /// What shows when the mouse rests on the icon.
-  const std::string& Icon1ToolTip() const { return icon1_.image.ToolTipText(); }
-  void SetIcon1ToolTip(const std::string& text) { setPartToolTip(icon1_.image, text, "Icon1ToolTip"); }
+  const std::string& Icon1ToolTip() const { return toolTip(&RowToolTips::icon1); }
+  void SetIcon1ToolTip(const std::string& text) { setToolTip(&RowToolTips::icon1, text, "Icon1ToolTip"); }
   /// None leaves no room for the icon but a spacing.
-  const host::PicturePtr& Icon1Picture() const { return icon1_.image.Picture(); }
+  const host::PicturePtr& Icon1Picture() const { return icon1_.picture; }
   void SetIcon1Picture(host::PicturePtr picture) {
     setIconPicture(icon1_, std::move(picture), "Icon1Picture");
   }
@@ -102,9 +101,9 @@ class QRNEdit final : public host::UserControl {
   void SetIcon1ButtonMode(qrnButtonMode mode) { setIconMode(icon1_, mode, "Icon1ButtonMode"); }
   std::int32_t Icon2Column() const { return icon2_.column; }
   void SetIcon2Column(std::int32_t column) { storeAndLayOut(icon2_.column, column, "Icon2Column"); }
-  const std::string& Icon2ToolTip() const { return icon2_.image.ToolTipText(); }
-  void SetIcon2ToolTip(const std::string& text) { setPartToolTip(icon2_.image, text, "Icon2ToolTip"); }
-  const host::PicturePtr& Icon2Picture() const { return icon2_.image.Picture(); }
+  const std::string& Icon2ToolTip() const { return toolTip(&RowToolTips::icon2); }
+  void SetIcon2ToolTip(const std::string& text) { setToolTip(&RowToolTips::icon2, text, "Icon2ToolTip"); }
+  const host::PicturePtr& Icon2Picture() const { return icon2_.picture; }
   void SetIcon2Picture(host::PicturePtr picture) {
     setIconPicture(icon2_, std::move(picture), "Icon2Picture");
   }
@@ -203,13 +202,13 @@ class QRNEdit final : public host::UserControl {
   void SetCurrentArrayValue(const Variant& value);
 
   // ---- the unit ----
-  std::int32_t UnitWidth() const { return widthOf(lblUnit_); }
-  void SetUnitWidth(std::int32_t width) { setPartWidth(lblUnit_, width, "UnitWidth"); }
-  const std::string& UnitText() const { return lblUnit_.Caption(); }
-  void SetUnitText(const std::string& text) { setPartCaption(lblUnit_, text, "UnitText"); }
-  const std::string& UnitToolTip() const { return lblUnit_.ToolTipText(); }
-  void SetUnitToolTip(const std::string& text) { setPartToolTip(lblUnit_, text, "UnitToolTip"); }
-  std::int32_t UnitAlignment() const { return lblUnit_.Alignment(); }
+  std::int32_t UnitWidth() const { return wholeWidth(unitWidth_); }
+  void SetUnitWidth(std::int32_t width) { setWidth(unitWidth_, width, "UnitWidth"); }
+  const std::string& UnitText() const { return unit_.text; }
+  void SetUnitText(const std::string& text) { setText(unit_, text, "UnitText"); }
+  const std::string& UnitToolTip() const { return toolTip(&RowToolTips::unit); }
+  void SetUnitToolTip(const std::string& text) { setToolTip(&RowToolTips::unit, text, "UnitToolTip"); }
+  std::int32_t UnitAlignment() const { return unit_.alignment; }
   void SetUnitAlignment(std::int32_t alignment);
   bool UnitVisible() const { return unitVisible_; }
   void SetUnitVisible(bool visible) { storeAndLayOut(unitVisible_, visible, "UnitVisible"); }
@@ -230,7 +229,9 @@ class QRNEdit final : public host::UserControl {
   /// not.
   std::int32_t GetMinWidth() const;
   /// The width beside caption, value and unit.
-  std::int32_t GetMinBruttoWidth() const;
+  std::int32_t GetMinBruttoWidth() const { return widthBesideParts(horizontalSpacing_); }
+  /// The same with another spacing.
+  std::int32_t widthBesideParts(std::int32_t spacing) const;
 
   /// Selects so many characters of the text box, from a position that counts from 0.
   void SetSelection(std::int32_t StartSel, std::int32_t SelLength);
@@ -277,14 +278,23 @@ class QRNEdit final : public host::UserControl {
   /// The host has accepted a changed value, with ValueChanged.
   Event<> StatusChange;
 
-  /// What a panel does while it moves the row: as Redraw, but in a designer too.
-  void switchRedraw(bool redraw);
+  /// Where a panel puts the row, and how wide it wants the parts.
+  struct RowPlace {
+    Rect bounds;
+    std::int32_t spacing;
+    std::int32_t label;
+    std::int32_t value;
+    std::int32_t unit;
+  };
+  /// The same as setting all of it and Redraw to True at the end, in a designer too, but nobody is notified.
+  void place(const RowPlace& place);
 
   // ---- the parts, for tests and platforms ----
-  host::Label& lblLabel() { return lblLabel_; }
-  host::Label& lblUnit() { return lblUnit_; }
-  host::Image& imgIcon1() { return icon1_.image; }
-  host::Image& imgIcon2() { return icon2_.image; }
+  host::Label& lblLabel() { return seenParts().lblLabel; }
+  host::Label& lblUnit() { return seenParts().lblUnit; }
+  host::Image& imgIcon1() { return seenParts().imgIcon1; }
+  host::Image& imgIcon2() { return seenParts().imgIcon2; }
+  bool isIcon2(const host::Control& inside) const { return parts_ && &inside == &parts_->imgIcon2; }
   /// The control in which the value is edited; null where the type has none.
   host::Editor* CurrentEditor() const;
 
@@ -294,6 +304,7 @@ class QRNEdit final : public host::UserControl {
 
   void mouseDown(host::MouseButton button, std::int16_t shift, Point at) override;
   void mouseUp(host::MouseButton button, std::int16_t shift, Point at) override;
+  void childMeasureChanged(host::Control& part) override;
   void childWindowMade(host::Control& child) override;
   void childChanged(host::Control& child) override;
   void childClicked(host::Control& child) override;
@@ -324,12 +335,12 @@ class QRNEdit final : public host::UserControl {
  private:
   friend struct QRNEditTable;
 
-  struct Icon {
-    host::Image image;
-    std::int32_t column;
-    qrnButtonMode mode = qrnbuttonNone;
-    bool visible = true;
-    bool hidden = false;
+  // The width that each part needs: measured once, and again after a change.
+  struct Measures {
+    static constexpr std::int32_t kUnknown = -1;
+    std::int32_t label = kUnknown;
+    std::int32_t value = kUnknown;
+    std::int32_t unit = kUnknown;
   };
   enum class EditorKind : std::uint8_t { None, TextBox, Check, DropList, BitList, Array };
   struct ReadResult {
@@ -338,9 +349,11 @@ class QRNEdit final : public host::UserControl {
   };
 
   // ---- setters (QRNEdit.cpp) ----
+  void switchRedraw(bool redraw);
   template <class T>
   void storeAndLayOut(T& field, const T& value, std::string_view key) {
     if (field == value) return;
+    keepArrangement();
     field = value;
     if (propertyChanged(key)) layOut();
   }
@@ -352,13 +365,16 @@ class QRNEdit final : public host::UserControl {
     propertyChanged(key);
   }
   void rescaleParts(Point pixelsBefore);
-  static std::int32_t widthOf(const host::Control& part);
-  void setPartWidth(host::Control& part, std::int32_t width, std::string_view key);
-  void setPartToolTip(host::Control& part, const std::string& text, std::string_view key);
-  void setPartCaption(host::Label& part, const std::string& text, std::string_view key);
-  void setIconPicture(Icon& icon, host::PicturePtr picture, std::string_view key);
-  void setIconHidden(Icon& icon, bool hidden, std::string_view key);
-  void setIconMode(Icon& icon, qrnButtonMode mode, std::string_view key);
+  static std::int32_t wholeWidth(double width);
+  void setWidth(double& part, std::int32_t width, std::string_view key);
+  const std::string& toolTip(std::string RowToolTips::*part) const;
+  void setToolTip(std::string RowToolTips::*part, const std::string& text, std::string_view key);
+  void setText(RowText& part, const std::string& text, std::string_view key);
+  void applyToolTips();
+  void setTextAlignment(RowText& part, std::int32_t alignment, std::string_view key);
+  void setIconPicture(RowIcon& icon, host::PicturePtr picture, std::string_view key);
+  void setIconHidden(RowIcon& icon, bool hidden, std::string_view key);
+  void setIconMode(RowIcon& icon, qrnButtonMode mode, std::string_view key);
 
   // ---- the editor (QRNEdit_editor.cpp) ----
   static EditorKind editorKind(qrnValueType type);
@@ -366,8 +382,7 @@ class QRNEdit final : public host::UserControl {
   void switchEditor(qrnValueType type);
   void createEditor(EditorKind kind);
   void removeEditor();
-  template <class T>
-  T* addEditor(std::string_view progId, std::string_view name);
+  void addEditor(std::string_view progId, std::string_view name);
   void applySettings();
   void applyAlignment();
   void applyLocked();
@@ -381,7 +396,15 @@ class QRNEdit final : public host::UserControl {
   bool lacksEditor() const { return editorKind(valueType_) != editorKind_; }
   /// The control of the row in which the editor lies: the text box itself, or the user control around the
   /// others.
-  host::Control* editorFrame() const;
+  host::Control* editorFrame() const { return editor_.get(); }
+  template <class T>
+  T* editorOf(EditorKind kind) const {
+    return editorKind_ == kind ? static_cast<T*>(editor_.get()) : nullptr;
+  }
+  host::TextBox* txtValue() const { return editorOf<host::TextBox>(EditorKind::TextBox); }
+  QRNCheck* chkValue() const { return editorOf<QRNCheck>(EditorKind::Check); }
+  QRNDropList* cboValue() const { return editorOf<QRNDropList>(EditorKind::DropList); }
+  QRNBitList* lstValue() const { return editorOf<QRNBitList>(EditorKind::BitList); }
   CompositeEditor* compositeEditor() const;
 
   // ---- the value (QRNEdit_value.cpp) ----
@@ -406,19 +429,29 @@ class QRNEdit final : public host::UserControl {
   // ---- for assistive tools (QRNEdit_accessible.cpp) ----
   std::string accessibleName() const;
   const std::string& accessibleDescription() const;
-  bool isSeenByTools(const Icon& icon) const;
+  bool isSeenByTools(const RowIcon& icon) const;
   host::Control* accessiblePart(std::int32_t index);
 
   // ---- layout (QRNEdit_layout.cpp) ----
   void layOut();
   bool showEditor();
+  void arrangeInside() override;
+  void keepArrangement();
+  RowParts& seenParts();
+  void makeParts();
+  host::Label& labelOf(const RowText& text) { return &text == &label_ ? parts_->lblLabel : parts_->lblUnit; }
+  host::Image& imageOf(const RowIcon& icon) const {
+    return &icon == &icon1_ ? parts_->imgIcon1 : parts_->imgIcon2;
+  }
+  void applyWidths();
   double placeParts(double x, bool move);
   double placeEditor(double x, bool move);
   double placeIcons(std::int32_t column, double x, bool move);
-  void applyIconVisibility();
-  bool iconShown(const Icon& icon) const { return icon.column >= 1 && icon.visible && !icon.hidden; }
-  std::int32_t iconWidth(const Icon& icon) const;
-  double overhead() const;
+  double pictureWidth(const RowIcon& icon) const;
+  std::int32_t iconWidth(const RowIcon& icon) const;
+  std::int32_t measuredValueWidth() const;
+  void forgetMeasure(std::int32_t Measures::*part);
+  double overhead(double spacing) const;
   std::int32_t textHeight() const;
   std::int32_t rowHeight() const;
 
@@ -426,22 +459,35 @@ class QRNEdit final : public host::UserControl {
   bool beginEdit();
   bool endEdit();
   void watchApplication();
-  Icon* iconOf(const host::Control& child);
+  const RowIcon* iconOf(const host::Control& child) const;
   void clickOn(host::Control& child);
-  bool isTracked(const Icon& icon) const;
-  void trackIcon(Icon& icon);
+  bool isTracked(const RowIcon& icon) const;
+  void trackIcon(const RowIcon& icon);
   void stopTracking();
-  void paintIconFrame(host::Surface& surface, const Icon& icon);
+  void paintIconFrame(host::Surface& surface, const RowIcon& icon);
   void showContextMenu(bool atKeyboard);
 
-  host::Label lblLabel_;
-  host::Label lblUnit_;
-  Icon icon1_{{}, 1};
-  Icon icon2_{{}, 4};
-  host::TextBox* txtValue_ = nullptr;  // at most one of the four
-  QRNCheck* chkValue_ = nullptr;
-  QRNDropList* cboValue_ = nullptr;
-  QRNBitList* lstValue_ = nullptr;
+  // What every layout of a panel touches.
+  double labelWidth_ = 100;
+  double valueWidth_ = 0;
+  double unitWidth_ = 100;
+  mutable Measures minimum_;
+  mutable std::int32_t textHeight_ = Measures::kUnknown;
+  std::int32_t horizontalSpacing_ = 4;
+  EditorKind editorKind_ = EditorKind::None;
+  bool labelVisible_ = true;
+  bool valueVisible_ = true;
+  bool unitVisible_ = true;
+  bool redraw_ = false;
+  bool editorShown_ = true;  // the last that the editor was told
+
+  RowText label_;
+  RowText unit_;
+  RowIcon icon1_{{}, 1};
+  RowIcon icon2_{{}, 4};
+  std::unique_ptr<RowToolTips> toolTips_;
+  std::unique_ptr<RowParts> parts_;
+  host::Owned<host::Control> editor_;  // of the kind that editorKind_ tells
 
   Variant storedValue_;
   Variant displayBaseline_;
@@ -453,19 +499,13 @@ class QRNEdit final : public host::UserControl {
   std::unique_ptr<clsQRNEDitSubClass> editorHook_;  // from the moment on when the editor has a window
 
   qrnValueType valueType_ = qrnTypeString;
-  std::int32_t horizontalSpacing_ = 4;
   std::int32_t alignment_ = 0;
   std::int32_t valueAlignment_ = 0;
   std::int32_t valueMaxLength_ = 65535;
   std::int8_t changeDepth_ = 0;  // above 0 while a change of the editor is being handled
-  EditorKind editorKind_ = EditorKind::None;
-  bool labelVisible_ = true;
-  bool valueVisible_ = true;
-  bool unitVisible_ = true;
   bool locked_ = false;
   bool valueUpperCase_ = false;
   bool password_ = false;
-  bool redraw_ = false;
   bool editing_ = false;
   bool leftPressed_ = false;
 };

@@ -18,18 +18,17 @@ const std::string& QRNEdit::accessibleDescription() const {
   return ValueToolTip().empty() ? LabelToolTip() : ValueToolTip();
 }
 
-bool QRNEdit::isSeenByTools(const Icon& icon) const {
-  const host::PicturePtr& picture = icon.image.Picture();
-  const bool says = icon.mode != qrnbuttonNone || !icon.image.ToolTipText().empty();
-  return says && iconShown(icon) && picture && !picture->empty();
+bool QRNEdit::isSeenByTools(const RowIcon& icon) const {
+  const std::string& tip = toolTip(&icon == &icon1_ ? &RowToolTips::icon1 : &RowToolTips::icon2);
+  const bool says = icon.mode != qrnbuttonNone || !tip.empty();
+  return says && icon.shown() && icon.picture && !icon.picture->empty();
 }
 
 host::Control* QRNEdit::accessiblePart(std::int32_t index) {
   host::Control* const editor = valueVisible_ ? CurrentEditor() : nullptr;
   if (editor && index-- == 0) return editor;
-  for (Icon* icon : {&icon1_, &icon2_}) {
-    if (isSeenByTools(*icon) && index-- == 0) return &icon->image;
-  }
+  if (isSeenByTools(icon1_) && index-- == 0) return &imgIcon1();
+  if (isSeenByTools(icon2_) && index-- == 0) return &imgIcon2();
   return nullptr;
 }
 
@@ -59,8 +58,7 @@ void QRNEdit::tellFactsOf(const host::Control& inside, AccessibleFacts& facts) c
     // Nothing is held against a value that nobody has touched.
     if (ValueChanged()) facts.error = errorInWords(ValueError());
   }
-  for (const Icon* icon : {&icon1_, &icon2_}) {
-    if (&inside != &icon->image || icon->mode == qrnbuttonNone) continue;
+  if (const RowIcon* icon = iconOf(inside); icon && icon->mode != qrnbuttonNone) {
     facts.role = AccessibleRole::Button;
     facts.description = accessibleName();
     facts.action = host::AccessibleAction::Press;

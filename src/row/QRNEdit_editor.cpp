@@ -1,6 +1,7 @@
 #include <array>
 
 #include "diag/QRNErrors.h"
+#include "host/prog_ids.h"
 #include "row/QRNEdit.h"
 #include "runtime/errors.h"
 
@@ -31,28 +32,21 @@ QRNEdit::EditorKind QRNEdit::editorKind(qrnValueType type) {
 
 host::Editor* QRNEdit::CurrentEditor() const {
   switch (editorKind_) {
-    case EditorKind::TextBox: return txtValue_;
-    case EditorKind::Check: return chkValue_ ? &chkValue_->Check() : nullptr;
-    case EditorKind::DropList: return cboValue_ ? &cboValue_->Combo() : nullptr;
-    case EditorKind::BitList: return lstValue_ ? &lstValue_->List() : nullptr;
+    case EditorKind::TextBox: return txtValue();
+    case EditorKind::Check: return chkValue() ? &chkValue()->Check() : nullptr;
+    case EditorKind::DropList: return cboValue() ? &cboValue()->Combo() : nullptr;
+    case EditorKind::BitList: return lstValue() ? &lstValue()->List() : nullptr;
     default: return nullptr;
   }
 }
 
-host::Control* QRNEdit::editorFrame() const {
-  for (host::Control* frame : std::array<host::Control*, 4>{txtValue_, chkValue_, cboValue_, lstValue_}) {
-    if (frame) return frame;
-  }
-  return nullptr;
-}
-
 host::ListEditor* QRNEdit::listEditor() const {
-  if (cboValue_) return &cboValue_->Combo();
-  return lstValue_ ? &lstValue_->List() : nullptr;
+  if (cboValue()) return &cboValue()->Combo();
+  return lstValue() ? &lstValue()->List() : nullptr;
 }
 
 CompositeEditor* QRNEdit::compositeEditor() const {
-  return dynamic_cast<CompositeEditor*>(txtValue_ ? nullptr : editorFrame());
+  return txtValue() ? nullptr : static_cast<CompositeEditor*>(editor_.get());
 }
 
 void QRNEdit::SetValueType(qrnValueType type) {
@@ -84,11 +78,10 @@ void QRNEdit::switchEditor(qrnValueType type) {
   struct Saved {
     host::Color foreColor;
     std::string toolTip;
-    double width;
   };
   std::optional<Saved> saved;
   if (const host::Editor* old = CurrentEditor()) {
-    saved = Saved{old->ForeColor(), old->ToolTipText(), editorFrame()->Width()};
+    saved = Saved{old->ForeColor(), old->ToolTipText()};
   }
   removeEditor();
   valueType_ = type;
@@ -96,23 +89,21 @@ void QRNEdit::switchEditor(qrnValueType type) {
   host::Editor* editor = CurrentEditor();
   if (!editor) return;
   applySettings();
-  if (!saved) return;
+  if (!saved) {
+    valueWidth_ = kEditorWidth / pixelsPerUnit().x;
+    return;
+  }
   editor->SetForeColor(saved->foreColor);
   editor->SetToolTipText(saved->toolTip);
-  if (chkValue_) chkValue_->SetToolTipText(saved->toolTip);
-  editorFrame()->SetWidth(saved->width);
+  if (chkValue()) chkValue()->SetToolTipText(saved->toolTip);
 }
 
 void QRNEdit::removeEditor() {
-  const host::Control* frame = editorFrame();
   // While the window still exists.
   editorHook_.reset();
   editorKind_ = EditorKind::None;
-  txtValue_ = nullptr;
-  chkValue_ = nullptr;
-  cboValue_ = nullptr;
-  lstValue_ = nullptr;
-  if (frame) controls().remove(std::string(frame->Name()));
+  const host::Owned<host::Control> gone = std::move(editor_);
+  forgetMeasure(&Measures::value);
 }
 
 void QRNEdit::childWindowMade(host::Control& child) {
@@ -121,23 +112,21 @@ void QRNEdit::childWindowMade(host::Control& child) {
   editorHook_->SetHwnd(child.window());
 }
 
-template <class T>
-T* QRNEdit::addEditor(std::string_view progId, std::string_view name) {
-  host::Control& added = controls().add(progId, name, *this);
-  added.SetWidth(kEditorWidth / pixelsPerUnit().x);
-  return static_cast<T*>(&added);
+// One of the row's own parts, so it is in no collection.
+void QRNEdit::addEditor(std::string_view progId, std::string_view name) {
+  host::Owned<host::Control> added = host::createByProgId(progId);
+  host::LifeCycle::startChild(*added, *this, partName(name), *this);
+  editor_ = std::move(added);
+  editorShown_ = true;  // as a control is born
+  forgetMeasure(&Measures::value);
 }
 
 void QRNEdit::createEditor(EditorKind kind) {
   switch (kind) {
-    case EditorKind::TextBox: txtValue_ = addEditor<host::TextBox>("VB.TextBox", "txtValue"); break;
-    case EditorKind::Check: chkValue_ = addEditor<QRNCheck>("QRNV16Controls2.QRNCheck", "chkValue"); break;
-    case EditorKind::DropList:
-      cboValue_ = addEditor<QRNDropList>("QRNV16Controls2.QRNDropList", "cboValue");
-      break;
-    case EditorKind::BitList:
-      lstValue_ = addEditor<QRNBitList>("QRNV16Controls2.QRNBitList", "lstValue");
-      break;
+    case EditorKind::TextBox: addEditor("VB.TextBox", "txtValue"); break;
+    case EditorKind::Check: addEditor("QRNV16Controls2.QRNCheck", "chkValue"); break;
+    case EditorKind::DropList: addEditor("QRNV16Controls2.QRNDropList", "cboValue"); break;
+    case EditorKind::BitList: addEditor("QRNV16Controls2.QRNBitList", "lstValue"); break;
     default: break;
   }
   editorKind_ = kind;
@@ -152,7 +141,7 @@ void QRNEdit::applySettings() {
   applyPassword();
   applyEnabled();
   applyFont();
-  if (chkValue_) chkValue_->Check().SetBackColor(BackColor());
+  if (chkValue()) chkValue()->Check().SetBackColor(BackColor());
   editorFrame()->SetVisible(valueVisible_);
 }
 
@@ -162,42 +151,47 @@ void QRNEdit::applyAlignment() {
 
 void QRNEdit::applyLocked() {
   const host::Color background = locked_ ? host::kButtonFace : host::kWindowBackground;
-  if (txtValue_) {
-    txtValue_->SetLocked(locked_);
-    txtValue_->SetBackColor(background);
-  } else if (cboValue_) {
-    cboValue_->Combo().SetLocked(locked_);
-    cboValue_->Combo().SetBackColor(background);
-  } else if (lstValue_) {
-    lstValue_->List().SetBackColor(background);
+  if (txtValue()) {
+    txtValue()->SetLocked(locked_);
+    txtValue()->SetBackColor(background);
+  } else if (cboValue()) {
+    cboValue()->Combo().SetLocked(locked_);
+    cboValue()->Combo().SetBackColor(background);
+  } else if (lstValue()) {
+    lstValue()->List().SetBackColor(background);
   } else {
     applyEnabled();
   }
 }
 
 void QRNEdit::applyEnabled() {
-  if (host::Editor* editor = CurrentEditor()) editor->SetEnabled(Enabled() && !(chkValue_ && locked_));
+  if (host::Editor* editor = CurrentEditor()) editor->SetEnabled(Enabled() && !(chkValue() && locked_));
 }
 
 void QRNEdit::applyUpperCase() {
-  if (txtValue_) txtValue_->setUpperCase(valueUpperCase_);
-  if (cboValue_) cboValue_->Combo().setUpperCase(valueUpperCase_);
+  if (txtValue()) txtValue()->setUpperCase(valueUpperCase_);
+  if (cboValue()) cboValue()->Combo().setUpperCase(valueUpperCase_);
 }
 
 void QRNEdit::applyMaxLength() {
-  if (txtValue_) txtValue_->SetMaxLength(valueMaxLength_);
+  if (txtValue()) txtValue()->SetMaxLength(valueMaxLength_);
 }
 
 void QRNEdit::applyPassword() {
-  if (txtValue_) txtValue_->SetPasswordChar(password_ ? "*" : "");
+  if (txtValue()) txtValue()->SetPasswordChar(password_ ? "*" : "");
 }
 
 // Drops the measured widths as well, so it also serves a change of scale.
 void QRNEdit::applyFont() {
-  lblLabel_.fontChanged();
-  lblUnit_.fontChanged();
-  if (txtValue_)
-    txtValue_->SetFont(font());
+  textHeight_ = Measures::kUnknown;
+  minimum_ = {};
+  tellMeasureChanged();
+  if (parts_) {
+    parts_->lblLabel.fontChanged();
+    parts_->lblUnit.fontChanged();
+  }
+  if (txtValue())
+    txtValue()->SetFont(font());
   else if (auto* composite = compositeEditor())
     composite->SetFont(font());
 }

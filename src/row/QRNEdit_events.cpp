@@ -56,7 +56,7 @@ void QRNEdit::watchApplication() {
   focusWatch_->left = focusWatch_->application.AppLostFocus.connect([this] {
     const WeakRef<QRNEdit> self(this);
     endEdit();
-    if (self) ObjectEvent.raise("AppLostFocus", {});
+    if (self) raiseByName("AppLostFocus", {});
   });
   focusWatch_->back = focusWatch_->application.AppGotFocus.connect([this] {
     if (beginEdit()) DebugTrace("AppGotFocus", kTraceLevel);
@@ -80,7 +80,7 @@ host::Control* QRNEdit::focusTarget() {
 
 void QRNEdit::childChanged(host::Control& child) {
   if (changeDepth_ > 0) return;
-  if (&child == txtValue_ && valueType_ == qrnTypeDouble) {
+  if (&child == txtValue() && valueType_ == qrnTypeDouble) {
     const HandlingChange handling(changeDepth_);
     correctDecimalSeparator();
   }
@@ -90,7 +90,7 @@ void QRNEdit::childChanged(host::Control& child) {
 void QRNEdit::childClicked(host::Control&) { raise(Click, "Click"); }
 
 void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
-  if (changeDepth_ > 0 || !lstValue_ || &child != &lstValue_->List()) return;
+  if (changeDepth_ > 0 || !lstValue() || &child != &lstValue()->List()) return;
   if (!locked_) {
     raise(ItemCheck, "ItemCheck", item);
     return;
@@ -98,7 +98,7 @@ void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
   const HandlingChange handling(changeDepth_);
   const auto* bits = displayBaseline_.get<std::string>();
   const bool accepted = bits && BitStringGet(*bits, item);
-  ignoringErrors([&] { lstValue_->List().SetSelected(item, accepted); });
+  ignoringErrors([&] { lstValue()->List().SetSelected(item, accepted); });
 }
 
 void QRNEdit::childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
@@ -118,9 +118,10 @@ void QRNEdit::childKeyUp(host::Control&, std::int16_t& keyCode, std::int16_t& sh
 
 // ---- clicks ----
 
-QRNEdit::Icon* QRNEdit::iconOf(const host::Control& child) {
-  if (&child == &icon1_.image) return &icon1_;
-  return &child == &icon2_.image ? &icon2_ : nullptr;
+const RowIcon* QRNEdit::iconOf(const host::Control& child) const {
+  if (!parts_) return nullptr;
+  if (&child == &parts_->imgIcon1) return &icon1_;
+  return &child == &parts_->imgIcon2 ? &icon2_ : nullptr;
 }
 
 void QRNEdit::mouseDown(host::MouseButton button, std::int16_t, Point) {
@@ -139,20 +140,20 @@ void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std
   if (button != host::MouseButton::Left || !Enabled()) return;
   leftPressed_ = true;
   // The caption of a Boolean parameter works its check box.
-  if (&child == &lblLabel_ && chkValue_ && chkValue_->shown() && !locked_) {
+  if (parts_ && &child == &parts_->lblLabel && chkValue() && chkValue()->shown() && !locked_) {
     const WeakRef<QRNEdit> self(this);
     SetFocus();
-    if (self && chkValue_) chkValue_->Check().userToggled();
+    if (self && chkValue()) chkValue()->Check().userToggled();
     // The box's own widget has not seen this click.
-    if (self && chkValue_ && chkValue_->Check().peer())
-      chkValue_->Check().peer()->changed(host::Aspect::Content);
+    if (self && chkValue() && chkValue()->Check().peer())
+      chkValue()->Check().peer()->changed(host::Aspect::Content);
     return;
   }
-  if (const Icon* icon = iconOf(child); icon && icon->mode != qrnbuttonNone) invalidate();
+  if (const RowIcon* icon = iconOf(child); icon && icon->mode != qrnbuttonNone) invalidate();
 }
 
 void QRNEdit::childMouseMove(host::Control& child, std::int16_t, std::int16_t, Point at) {
-  Icon* icon = iconOf(child);
+  const RowIcon* icon = iconOf(child);
   // A pressed icon hears of the mouse wherever it goes.
   if (icon && icon->mode != qrnbuttonNone && Enabled() && child.contains(at)) trackIcon(*icon);
 }
@@ -162,21 +163,24 @@ void QRNEdit::childMouseUp(host::Control& child, host::MouseButton button, std::
   if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;
-  const Icon* icon = iconOf(child);
+  const RowIcon* icon = iconOf(child);
   if (icon && icon->mode != qrnbuttonNone) invalidate();
   if (inside && Enabled()) clickOn(child);
 }
 
 void QRNEdit::clickOn(host::Control& child) {
-  if (&child == &lblLabel_)
+  const RowIcon* icon = iconOf(child);
+  if (parts_ && &child == &parts_->lblLabel)
     raise(LabelClick, "LabelClick");
-  else if (&child == &lblUnit_)
+  else if (parts_ && &child == &parts_->lblUnit)
     raise(UnitClick, "UnitClick");
-  else if (&child == &icon1_.image && icon1_.mode != qrnbuttonNone)
+  else if (icon && icon->mode == qrnbuttonNone)
+    return;
+  else if (icon == &icon1_)
     raise(Icon1Click, "Icon1Click");
-  else if (&child == &icon2_.image && icon2_.mode != qrnbuttonNone)
+  else if (icon == &icon2_)
     raise(Icon2Click, "Icon2Click");
-  else if (lstValue_ && &child == &lstValue_->List())
+  else if (lstValue() && &child == &lstValue()->List())
     raise(Click, "Click");
 }
 
@@ -187,13 +191,13 @@ void QRNEdit::showContextMenu(bool atKeyboard) {
 
 // ---- icons ----
 
-bool QRNEdit::isTracked(const Icon& icon) const { return tracking_ && tracking_->image == &icon.image; }
+bool QRNEdit::isTracked(const RowIcon& icon) const { return tracking_ && tracking_->image == &imageOf(icon); }
 
-void QRNEdit::trackIcon(Icon& icon) {
+void QRNEdit::trackIcon(const RowIcon& icon) {
   if (isTracked(icon)) return;
   stopTracking();
   tracking_ = std::make_unique<IconTracking>();
-  tracking_->image = &icon.image;
+  tracking_->image = &imageOf(icon);
   tracking_->timer = static_cast<host::Timer*>(&controls().add("VB.Timer", "tmrHit", *this));
   tracking_->tick = tracking_->timer->Tick.connect([this] {
     const Point cursor = platform().cursor() - platform().screenPosition(root());
@@ -212,17 +216,18 @@ void QRNEdit::stopTracking() {
 }
 
 void QRNEdit::paint(host::Surface& surface, Size size) {
+  seenParts();
   surface.fill({0, 0, size.width, size.height}, BackColor());
   paintIconFrame(surface, icon1_);
   paintIconFrame(surface, icon2_);
 }
 
 // An embossed icon always has its frame; a flat one only while it is tracked.
-void QRNEdit::paintIconFrame(host::Surface& surface, const Icon& icon) {
+void QRNEdit::paintIconFrame(host::Surface& surface, const RowIcon& icon) {
   const bool tracked = isTracked(icon);
   const bool embossed = icon.mode == qrnButtonEmbossed && icon.column >= 1 && icon.visible;
   if (!tracked && !embossed) return;
-  const Rect image = pixelBounds(icon.image);
+  const Rect image = pixelBounds(imageOf(icon));
   const Rect frame{image.left - 1, image.top - 1, image.width + 2, image.height + 2};
   const bool pressed = tracked && leftPressed_;
   surface.frame(frame, pressed ? host::kButtonShadow : host::kButtonHighlight,

@@ -21,27 +21,56 @@ void moveTo(host::Control& part, double left, double top) {
 
 }  // namespace
 
-std::int32_t QRNEdit::textHeight() const { return toLong(TextHeight("|")); }
+std::int32_t QRNEdit::textHeight() const {
+  if (textHeight_ == Measures::kUnknown) textHeight_ = toLong(TextHeight("|"));
+  return textHeight_;
+}
 
 std::int32_t QRNEdit::rowHeight() const { return toLong(7 / pixelsPerUnit().y + textHeight()); }
 
 std::int32_t QRNEdit::GetMinHeight() const {
   std::int32_t height = textHeight() + 8;
-  if (lstValue_) height = std::max(height, lstValue_->List().ListCount() * (textHeight() + 2) + 5);
+  if (editorKind_ == EditorKind::BitList)
+    height = std::max(height, listEditor()->ListCount() * (textHeight() + 2) + 5);
   return height;
 }
 
-std::int32_t QRNEdit::iconWidth(const Icon& icon) const {
-  return roundedUp(icon.image.Width()) + (icon.mode != qrnbuttonNone ? 2 : 0);
+double QRNEdit::pictureWidth(const RowIcon& icon) const {
+  return icon.picture ? icon.picture->width() / pixelsPerUnit().x : 0;
 }
 
-std::int32_t QRNEdit::GetMinLabelWidth() const { return roundedUp(lblLabel_.textWidth()); }
+std::int32_t QRNEdit::iconWidth(const RowIcon& icon) const {
+  return roundedUp(pictureWidth(icon)) + (icon.mode != qrnbuttonNone ? 2 : 0);
+}
 
-std::int32_t QRNEdit::GetMinUnitWidth() const { return roundedUp(lblUnit_.textWidth()); }
+void QRNEdit::forgetMeasure(std::int32_t Measures::*part) {
+  minimum_.*part = Measures::kUnknown;
+  tellMeasureChanged();
+}
+
+// The row measures its texts itself, whether there are labels or not.
+void QRNEdit::childMeasureChanged(host::Control& part) {
+  if (&part == editor_.get()) forgetMeasure(&Measures::value);
+}
+
+std::int32_t QRNEdit::GetMinLabelWidth() const {
+  if (minimum_.label == Measures::kUnknown) minimum_.label = roundedUp(TextWidth(label_.text));
+  return minimum_.label;
+}
+
+std::int32_t QRNEdit::GetMinUnitWidth() const {
+  if (minimum_.unit == Measures::kUnknown) minimum_.unit = roundedUp(TextWidth(unit_.text));
+  return minimum_.unit;
+}
 
 std::int32_t QRNEdit::GetMinValueWidth() const {
+  if (minimum_.value == Measures::kUnknown) minimum_.value = measuredValueWidth();
+  return minimum_.value;
+}
+
+std::int32_t QRNEdit::measuredValueWidth() const {
   switch (editorKind_) {
-    case EditorKind::TextBox: return roundedUp(txtValue_->textWidth() + textHeight());
+    case EditorKind::TextBox: return roundedUp(txtValue()->textWidth() + textHeight());
     case EditorKind::Check: return 2 * textHeight();
     case EditorKind::DropList:
     case EditorKind::BitList: return 2 * textHeight() + roundedUp(listEditor()->widestText());
@@ -50,34 +79,30 @@ std::int32_t QRNEdit::GetMinValueWidth() const {
 }
 
 std::int32_t QRNEdit::GetMinWidth() const {
-  double width = overhead();
+  double width = overhead(horizontalSpacing_);
   if (labelVisible_) width += GetMinLabelWidth();
   if (valueVisible_) width += GetMinValueWidth();
   if (unitVisible_) width += GetMinUnitWidth();
   return nearestLong(width);
 }
 
-std::int32_t QRNEdit::GetMinBruttoWidth() const { return nearestLong(overhead()); }
+std::int32_t QRNEdit::widthBesideParts(std::int32_t spacing) const { return nearestLong(overhead(spacing)); }
 
 // The icons, and a spacing between any two parts; in doubles, as a spacing may be as large as a Long.
-double QRNEdit::overhead() const {
-  const double spacing = horizontalSpacing_;
+double QRNEdit::overhead(double spacing) const {
   double width = -spacing;
-  for (const Icon* icon : {&icon1_, &icon2_}) {
+  for (const RowIcon* icon : {&icon1_, &icon2_}) {
     if (icon->visible && icon->column >= 1) width += iconWidth(*icon) + spacing;
   }
   for (const bool visible : {labelVisible_, valueVisible_, unitVisible_}) width += visible ? spacing : 0;
   return width;
 }
 
-void QRNEdit::applyIconVisibility() {
-  icon1_.image.SetVisible(iconShown(icon1_));
-  icon2_.image.SetVisible(iconShown(icon2_));
-}
-
 // Hiding the focused editor ends the edit, and who hears of that may do anything: answers whether the row is
 // still there.
 bool QRNEdit::showEditor() {
+  if (editorShown_ == valueVisible_) return true;
+  editorShown_ = valueVisible_;
   const WeakRef<QRNEdit> self(this);
   if (!valueVisible_ && editorFrame() && editorFrame()->hasFocus()) input().setFocus(nullptr);
   if (!self) return false;
@@ -89,17 +114,76 @@ bool QRNEdit::showEditor() {
 }
 
 void QRNEdit::layOut() {
-  if (!redraw_ || !showEditor()) return;
-  lblLabel_.SetVisible(labelVisible_);
-  applyIconVisibility();
-  lblUnit_.SetVisible(unitVisible_);
+  if (redraw_ && showEditor()) arrangeLater();
+}
+
+// While the row is not to be laid out, what has been seen of it stays as it is.
+void QRNEdit::keepArrangement() {
+  if (!redraw_ && parts_) settle();
+}
+
+RowParts& QRNEdit::seenParts() {
+  settle();
+  if (!parts_) makeParts();  // of a row that is about to go
+  return *parts_;
+}
+
+void QRNEdit::makeParts() {
+  parts_ = std::make_unique<RowParts>();
+  // Before they lie in the row, which would take it for a change of its own.
+  for (const RowText* text : {&label_, &unit_}) {
+    labelOf(*text).SetCaption(text->text);
+    labelOf(*text).SetAlignment(text->alignment);
+  }
+  contain(parts_->lblLabel, *this, "lblLabel");
+  contain(parts_->imgIcon1, *this, "imgIcon1");
+  contain(parts_->imgIcon2, *this, "imgIcon2");
+  contain(parts_->lblUnit, *this, "lblUnit");
+  if (editor_) bringToFront(*editor_);
+  for (host::Label* label : {&parts_->lblLabel, &parts_->lblUnit}) {
+    label->SetEnabled(Enabled());
+    label->SetHeight(textHeight());
+  }
+  for (const RowIcon* icon : {&icon1_, &icon2_}) imageOf(*icon).SetPicture(icon->picture);
+  if (toolTips_) applyToolTips();
+}
+
+void QRNEdit::applyToolTips() {
+  parts_->lblLabel.SetToolTipText(toolTips_->label);
+  parts_->lblUnit.SetToolTipText(toolTips_->unit);
+  parts_->imgIcon1.SetToolTipText(toolTips_->icon1);
+  parts_->imgIcon2.SetToolTipText(toolTips_->icon2);
+}
+
+void QRNEdit::applyWidths() {
+  parts_->lblLabel.SetWidth(labelWidth_);
+  parts_->lblUnit.SetWidth(unitWidth_);
+  if (editor_) editor_->SetWidth(valueWidth_);
+}
+
+void QRNEdit::arrangeInside() {
+  if (!parts_) makeParts();
+  applyWidths();
+  parts_->lblLabel.SetVisible(labelVisible_);
+  for (const RowIcon* icon : {&icon1_, &icon2_}) imageOf(*icon).SetVisible(icon->shown());
+  parts_->lblUnit.SetVisible(unitVisible_);
   double x = 0;
   if (alignment_ != host::kAlignLeft) {
     const double room = toLong(ScaleWidth()) - (placeParts(0, false) - horizontalSpacing_);
     x = alignment_ == host::kAlignRight ? room : room / 2;
   }
   placeParts(x, true);
-  invalidate();
+}
+
+void QRNEdit::place(const RowPlace& place) {
+  horizontalSpacing_ = place.spacing;
+  labelWidth_ = place.label;
+  valueWidth_ = place.value;
+  unitWidth_ = place.unit;
+  redraw_ = false;
+  Move(place.bounds.left, place.bounds.top, place.bounds.width, place.bounds.height);
+  redraw_ = true;
+  layOut();
 }
 
 // Icons, caption, icons, value, icons, unit, icons; answers where the next part would start.
@@ -113,11 +197,11 @@ double QRNEdit::placeParts(double x, bool move) {
     x += label.Width() + horizontalSpacing_;
   };
   x = placeIcons(1, x, move);
-  if (labelVisible_) placeLabel(lblLabel_);
+  if (labelVisible_) placeLabel(parts_->lblLabel);
   x = placeIcons(2, x, move);
   if (valueVisible_) x = placeEditor(x, move) + horizontalSpacing_;
   x = placeIcons(3, x, move);
-  if (unitVisible_) placeLabel(lblUnit_);
+  if (unitVisible_) placeLabel(parts_->lblUnit);
   return placeIcons(4, x, move);
 }
 
@@ -126,22 +210,23 @@ double QRNEdit::placeEditor(double x, bool move) {
   host::Control* const frame = editorFrame();
   if (!frame) return x;
   double height = toLong(ScaleHeight());
-  if (chkValue_)
+  if (chkValue())
     height = rowHeight();
-  else if (cboValue_)
-    height = cboValue_->Combo().Height();
-  else if (lstValue_)
+  else if (cboValue())
+    height = cboValue()->Combo().Height();
+  else if (lstValue())
     height = std::min<double>(GetMinHeight(), height);
   if (move) frame->Move(roundHalfEven(x), 0, frame->Width(), height);
   return x + frame->Width();
 }
 
 double QRNEdit::placeIcons(std::int32_t column, double x, bool move) {
-  for (Icon* icon : {&icon1_, &icon2_}) {
+  for (const RowIcon* icon : {&icon1_, &icon2_}) {
     if (icon->column != column || !icon->visible) continue;
+    host::Image& image = imageOf(*icon);
     const double offset = icon->mode != qrnbuttonNone ? 1 : 0;
-    if (move) moveTo(icon->image, x + offset, (rowHeight() - icon->image.Height()) / 2);
-    x += icon->image.Width() + horizontalSpacing_ + 2 * offset;
+    if (move) moveTo(image, x + offset, (rowHeight() - image.Height()) / 2);
+    x += image.Width() + horizontalSpacing_ + 2 * offset;
   }
   return x;
 }

@@ -45,11 +45,11 @@ void QRNEditTable::restoreText(host::UserControl& control, const Variant& value)
 
 // As the editor of a new row is.
 void QRNEditTable::emptyEditor(C& row) {
-  if (row.txtValue_) row.txtValue_->SetText("");
-  if (row.chkValue_) row.chkValue_->Check().SetValue(0);
+  if (row.txtValue()) row.txtValue()->SetText("");
+  if (row.chkValue()) row.chkValue()->Check().SetValue(0);
   if (host::ListEditor* list = row.listEditor()) list->SetListIndex(-1);
-  if (row.lstValue_) {
-    host::ListBox& list = row.lstValue_->List();
+  if (row.lstValue()) {
+    host::ListBox& list = row.lstValue()->List();
     for (std::int16_t i = 0; i < list.ListCount(); ++i) list.SetSelected(i, false);
   }
   row.storedValue_ = row.displayBaseline_ = Variant();
@@ -83,20 +83,21 @@ std::vector<host::Property> QRNEditTable::labelProperties() {
 }
 
 std::vector<host::Property> QRNEditTable::iconProperties() {
-  using Icon = QRNEdit::Icon;
   return {
-      field<&C::Icon1Column, &C::SetIcon1Column, &C::icon1_, &Icon::column>("Icon1Column", 14, 1),
+      field<&C::Icon1Column, &C::SetIcon1Column, &C::icon1_, &RowIcon::column>("Icon1Column", 14, 1),
       setter<&C::Icon1ToolTip, &C::SetIcon1ToolTip>("Icon1ToolTip", 15, ""),
       picture<&C::Icon1Picture, &C::SetIcon1Picture>("Icon1Picture", 16),
-      field<&C::Icon1Visible, &C::SetIcon1Visible, &C::icon1_, &Icon::visible>("Icon1Visible", 17, true),
-      field<&C::Icon1Hidden, &C::SetIcon1Hidden, &C::icon1_, &Icon::hidden>("Icon1Hidden", 18, false),
-      field<&C::Icon1ButtonMode, &C::SetIcon1ButtonMode, &C::icon1_, &Icon::mode>("Icon1ButtonMode", 19, 0),
-      field<&C::Icon2Column, &C::SetIcon2Column, &C::icon2_, &Icon::column>("Icon2Column", 20, 4),
+      field<&C::Icon1Visible, &C::SetIcon1Visible, &C::icon1_, &RowIcon::visible>("Icon1Visible", 17, true),
+      field<&C::Icon1Hidden, &C::SetIcon1Hidden, &C::icon1_, &RowIcon::hidden>("Icon1Hidden", 18, false),
+      field<&C::Icon1ButtonMode, &C::SetIcon1ButtonMode, &C::icon1_, &RowIcon::mode>("Icon1ButtonMode", 19,
+                                                                                     0),
+      field<&C::Icon2Column, &C::SetIcon2Column, &C::icon2_, &RowIcon::column>("Icon2Column", 20, 4),
       setter<&C::Icon2ToolTip, &C::SetIcon2ToolTip>("Icon2ToolTip", 21, ""),
       picture<&C::Icon2Picture, &C::SetIcon2Picture>("Icon2Picture", 22),
-      field<&C::Icon2Visible, &C::SetIcon2Visible, &C::icon2_, &Icon::visible>("Icon2Visible", 23, true),
-      field<&C::Icon2Hidden, &C::SetIcon2Hidden, &C::icon2_, &Icon::hidden>("Icon2Hidden", 24, false),
-      field<&C::Icon2ButtonMode, &C::SetIcon2ButtonMode, &C::icon2_, &Icon::mode>("Icon2ButtonMode", 25, 0),
+      field<&C::Icon2Visible, &C::SetIcon2Visible, &C::icon2_, &RowIcon::visible>("Icon2Visible", 23, true),
+      field<&C::Icon2Hidden, &C::SetIcon2Hidden, &C::icon2_, &RowIcon::hidden>("Icon2Hidden", 24, false),
+      field<&C::Icon2ButtonMode, &C::SetIcon2ButtonMode, &C::icon2_, &RowIcon::mode>("Icon2ButtonMode", 25,
+                                                                                     0),
   };
 }
 

@@ -77,19 +77,19 @@ std::string QRNEdit::numberText(const Variant& value) const {
 }
 
 void QRNEdit::showText(std::string shown) {
-  txtValue_->SetText(shown);
+  txtValue()->SetText(shown);
   displayBaseline_ = std::move(shown);
 }
 
 void QRNEdit::showCheck(bool ticked) {
   const std::int16_t state = ticked ? 1 : 0;
-  chkValue_->Check().SetValue(state);
+  chkValue()->Check().SetValue(state);
   displayBaseline_ = std::int32_t{state};
 }
 
 void QRNEdit::showHexadecimal(const Variant& value) {
   Variant baseline = ValueFormat().empty() ? value : Variant(formatted(value));
-  txtValue_->SetText(Hex(baseline));
+  txtValue()->SetText(Hex(baseline));
   displayBaseline_ = std::move(baseline);
 }
 
@@ -101,7 +101,7 @@ void QRNEdit::showList(const Variant& value) {
 }
 
 void QRNEdit::showBits(const Variant& value) {
-  host::ListBox& list = lstValue_->List();
+  host::ListBox& list = lstValue()->List();
   std::string baseline = bitsOfEditor();
   const std::string bits = CStr(value);
   for (std::int32_t i = 0; i < list.ListCount(); ++i) {
@@ -115,18 +115,18 @@ void QRNEdit::showBits(const Variant& value) {
 }
 
 std::string QRNEdit::bitsOfEditor() const {
-  const host::ListBox& list = lstValue_->List();
+  const host::ListBox& list = lstValue()->List();
   std::string bits;
   for (std::int32_t i = 0; i < list.ListCount(); ++i) BitStringSet(bits, i, list.Selected(i));
   return bits;
 }
 
 void QRNEdit::correctDecimalSeparator() {
-  const std::string corrected = withLocalSeparator(txtValue_->Text());
-  if (corrected == txtValue_->Text()) return;
-  const std::int32_t start = txtValue_->SelStart(), length = txtValue_->SelLength();
-  txtValue_->SetText(corrected);
-  txtValue_->select(start, length);
+  const std::string corrected = withLocalSeparator(txtValue()->Text());
+  if (corrected == txtValue()->Text()) return;
+  const std::int32_t start = txtValue()->SelStart(), length = txtValue()->SelLength();
+  txtValue()->SetText(corrected);
+  txtValue()->select(start, length);
 }
 
 }  // namespace qrn

@@ -200,9 +200,28 @@ FormatterPtr formatterFor(std::string_view pattern) {
   return named ? named : patternFormatter(pattern);
 }
 
+// Thousands of values are shown with a handful of patterns: the last few that were read are kept.
+FormatterPtr sharedFormatter(std::string_view pattern) {
+  struct Known {
+    std::string pattern;
+    FormatterPtr formatter;
+  };
+  thread_local std::array<Known, 8> known;
+  thread_local std::size_t oldest = 0;
+  for (const Known& one : known) {
+    if (one.formatter && one.pattern == pattern) return one.formatter;
+  }
+  constexpr std::size_t kLongest = 100;
+  if (pattern.size() > kLongest) return formatterFor(pattern);
+  Known& replaced = known[oldest];
+  replaced = {std::string(pattern), formatterFor(pattern)};
+  oldest = (oldest + 1) % known.size();
+  return replaced.formatter;
+}
+
 }  // namespace
 
-CompiledFormat::CompiledFormat(std::string_view pattern) : formatter_(formatterFor(pattern)) {}
+CompiledFormat::CompiledFormat(std::string_view pattern) : formatter_(sharedFormatter(pattern)) {}
 
 std::string CompiledFormat::apply(const Variant& value) const { return formatter_->apply(value); }
 

@@ -4,12 +4,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
 #include "base/text.h"
 #include "runtime/errors.h"
+#include "runtime/name_index.h"
 
 namespace qrn {
 
@@ -23,6 +23,7 @@ class KeyedList {
     std::string key;
     T value;
     std::int32_t position;
+    std::uint32_t hash;  // of the key
   };
 
   std::int32_t count() const { return static_cast<std::int32_t>(entries_.size()); }
@@ -40,63 +41,55 @@ class KeyedList {
     return *found;
   }
 
-  Entry* find(std::string_view key) const {
-    if (!index_) {
-      for (const auto& entry : entries_) {
-        if (text::sameName(entry->key, key)) return entry.get();
-      }
-      return nullptr;
-    }
-    const auto found = index_->find(key);
-    return found == index_->end() ? nullptr : *found;
-  }
+  Entry* find(std::string_view key) const { return find(hashOf(key), key); }
 
   /// Appends, or inserts before a position in 1..count. The entry stays where it is in memory until removed.
   /// Errors: 457 for a key in use.
   Entry& add(std::string key, T value, std::int32_t before = 0) {
-    if (find(key)) raiseRunTimeError(kKeyAlreadyUsed);
+    const std::uint32_t hash = hashOf(key);
+    if (find(hash, key)) raiseRunTimeError(kKeyAlreadyUsed);
     const std::int32_t position = before >= 1 && before <= count() ? before : count() + 1;
-    auto entry = std::make_unique<Entry>(Entry{std::move(key), std::move(value), position});
+    auto entry = std::make_unique<Entry>(Entry{std::move(key), std::move(value), position, hash});
     Entry& added = *entry;
-    if (index_) index_->insert(&added);
     entries_.insert(entries_.begin() + (position - 1), std::move(entry));
     renumberFrom(position + 1);
-    if (!index_ && count() > kFew) buildIndex();
+    if (!index_.empty())
+      index_.insert(added);
+    else if (count() > kFew)
+      for (const auto& one : entries_) index_.insert(*one);
     return added;
   }
 
   /// Takes the entry out and hands its value to the caller. Errors: 9 outside 1..count.
-  T take(std::int32_t position) {
-    Entry& entry = at(position);
-    if (index_) index_->erase(&entry);
-    T value = std::move(entry.value);
+  T take(std::int32_t position) { return std::move(takeEntry(position)->value); }
+
+  /// The same with its key.
+  std::unique_ptr<Entry> takeEntry(std::int32_t position) {
+    at(position);
+    std::unique_ptr<Entry> entry = std::move(entries_[static_cast<std::size_t>(position) - 1]);
+    if (!index_.empty()) index_.erase(*entry);
     entries_.erase(entries_.begin() + (position - 1));
     renumberFrom(position);
-    return value;
+    return entry;
   }
 
   auto begin() const { return entries_.begin(); }
   auto end() const { return entries_.end(); }
 
  private:
-  struct Hash {
-    using is_transparent = void;
-    std::size_t operator()(const Entry* entry) const { return text::nameHash(entry->key); }
-    std::size_t operator()(std::string_view key) const { return text::nameHash(key); }
-  };
-  struct Same {
-    using is_transparent = void;
-    bool operator()(const Entry* a, const Entry* b) const { return a == b; }
-    bool operator()(const Entry* a, std::string_view b) const { return text::sameName(a->key, b); }
-    bool operator()(std::string_view a, const Entry* b) const { return text::sameName(a, b->key); }
-  };
-
   // Most lists hold a handful of entries: those are compared one by one and need no index.
   static constexpr std::int32_t kFew = 8;
 
-  void buildIndex() {
-    index_ = std::make_unique<std::unordered_set<Entry*, Hash, Same>>();
-    for (const auto& entry : entries_) index_->insert(entry.get());
+  static std::uint32_t hashOf(std::string_view key) {
+    return static_cast<std::uint32_t>(text::nameHash(key));
+  }
+
+  Entry* find(std::uint32_t hash, std::string_view key) const {
+    if (!index_.empty()) return index_.find(hash, key);
+    for (const auto& entry : entries_) {
+      if (entry->hash == hash && text::sameName(entry->key, key)) return entry.get();
+    }
+    return nullptr;
   }
 
   void renumberFrom(std::int32_t position) {
@@ -105,7 +98,7 @@ class KeyedList {
   }
 
   std::vector<std::unique_ptr<Entry>> entries_;
-  std::unique_ptr<std::unordered_set<Entry*, Hash, Same>> index_;
+  NameIndex<Entry> index_;
 };
 
 }  // namespace qrn

@@ -19,21 +19,26 @@ class QRNCheck final : public CompositeEditor {
 
   void SetToolTipText(std::string_view text) override {
     CompositeEditor::SetToolTipText(text);
-    lblBack_.SetToolTipText(text);
+    if (lblBack_) lblBack_->SetToolTipText(text);
   }
 
  protected:
-  void initialize() override {
-    contain(lblBack_, *this, "lblBack");
-    contain(chkValue_, *this, "chkValue");
-  }
-  void resize() override {
-    lblBack_.Move(0, 0, ScaleWidth(), ScaleHeight());
-    CompositeEditor::resize();
+  void initialize() override { contain(chkValue_, *this, "chkValue"); }
+  void arrangeInside() override {
+    if (!lblBack_) makeBack();
+    lblBack_->Move(0, 0, ScaleWidth(), ScaleHeight());
+    CompositeEditor::arrangeInside();
   }
 
  private:
-  host::Label lblBack_;
+  void makeBack() {
+    lblBack_ = std::make_unique<host::Label>();
+    contain(*lblBack_, *this, "lblBack");
+    lblBack_->SetToolTipText(ToolTipText());
+    bringToFront(chkValue_);
+  }
+
+  std::unique_ptr<host::Label> lblBack_;  // made when somebody looks at the control
   host::CheckBox chkValue_;
 };
 

@@ -5,7 +5,7 @@
 namespace qrn {
 
 // The height is the drop list's own, whatever the control's is.
-void QRNDropList::resize() {
+void QRNDropList::arrangeInside() {
   const double height = platform().comboBoxHeight(*cboValue_.Font()) / pixelsPerUnit().y;
   cboValue_.Move(0, 0, ScaleWidth(), height);
 }

@@ -17,7 +17,7 @@ class QRNDropList final : public CompositeEditor {
 
  protected:
   void initialize() override { contain(cboValue_, *this, "cboValue"); }
-  void resize() override;
+  void arrangeInside() override;
 
  private:
   host::ComboBox cboValue_;

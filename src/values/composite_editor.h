@@ -42,7 +42,8 @@ class CompositeEditor : public host::UserControl {
   }
 
  protected:
-  void resize() override { inner().Move(0, 0, ScaleWidth(), ScaleHeight()); }
+  void resize() override { arrangeLater(); }
+  void arrangeInside() override { inner().Move(0, 0, ScaleWidth(), ScaleHeight()); }
 };
 
 }  // namespace qrn

@@ -186,7 +186,7 @@ TEST_F(PanelCosts, ARowIsLaidOutOnceHowEverManyOfItsColumnsChange) {
     auto& areas = static_cast<headless::HeadlessPeer*>(panel->peer())->invalidated;
     areas.clear();
     panel->LayoutControls(false);
-    const Rect whole = row(1).visibleOnSurface();
+    const Rect whole = panel->ControlsContainer().visibleOnSurface();
     return std::count(areas.begin(), areas.end(), whole);
   };
   const ColumnWidths fit{row(1).LabelWidth(), row(1).ValueWidth(), row(1).UnitWidth()};

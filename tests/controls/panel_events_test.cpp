@@ -143,8 +143,8 @@ TEST_F(PanelEvents, AListenerCanTakeAKeyAway) {
 
 TEST_F(PanelEvents, AnUnknownEventOfAControlIsIgnored) {
   fill(1);
-  row(1).ObjectEvent.raise("SomethingElse", host::EventArgs());
-  button(2).ObjectEvent.raise("SomethingElse", host::EventArgs());
+  row(1).raiseByName("SomethingElse", host::EventArgs());
+  button(2).raiseByName("SomethingElse", host::EventArgs());
   EXPECT_EQ(events(), Events{});
 }
 
@@ -159,7 +159,7 @@ TEST_F(PanelEvents, AnActionIsClicked) {
 TEST_F(PanelEvents, AClickReportedByAnActionWithoutButtonModeIsOneOnThePanel) {
   fill(1);
   button(2).SetButtonMode(qrnbuttonNone);
-  button(2).ObjectEvent.raise("Click", host::EventArgs());
+  button(2).raiseByName("Click", host::EventArgs());
   EXPECT_EQ(events(), (Events{"Click"}));
 }
 
@@ -283,8 +283,8 @@ TEST_F(PanelEvents, AnItemScrolledAwayIsNotUnderTheMouse) {
 TEST_F(PanelEvents, StartingAnEditEndsTheOneInAnotherRowFirst) {
   fill(2);
   row(1).StartEdit.raise();  // only the row itself hears this one
-  row(1).ObjectEvent.raise("StartEdit", host::EventArgs());
-  row(2).ObjectEvent.raise("StartEdit", host::EventArgs());
+  row(1).raiseByName("StartEdit", host::EventArgs());
+  row(2).raiseByName("StartEdit", host::EventArgs());
   EXPECT_EQ(events(),
             (Events{"ParameterStartEdit(1)", "ParameterEndEdit(1, False)", "ParameterStartEdit(2)"}));
 }
@@ -333,8 +333,8 @@ TEST_F(PanelEvents, AcceptingAValueWhileItsStateChangesIsToldOnce) {
 
 TEST_F(PanelEvents, ASecondStartOfTheSameRowRaisesNothing) {
   fill(1);
-  row(1).ObjectEvent.raise("StartEdit", host::EventArgs());
-  row(1).ObjectEvent.raise("StartEdit", host::EventArgs());
+  row(1).raiseByName("StartEdit", host::EventArgs());
+  row(1).raiseByName("StartEdit", host::EventArgs());
   EXPECT_EQ(events(), (Events{"ParameterStartEdit(1)"}));
 }
 
@@ -342,11 +342,11 @@ TEST_F(PanelEvents, TheEndOfARowThatIsNotInEditingIsIgnored) {
   fill(2);
   bool changed = true;
   const host::EventArg arguments[] = {host::EventArg(changed)};
-  row(1).ObjectEvent.raise("EndEdit", arguments);
-  row(1).ObjectEvent.raise("StartEdit", host::EventArgs());
-  row(2).ObjectEvent.raise("EndEdit", arguments);
-  row(1).ObjectEvent.raise("EndEdit", arguments);
-  row(1).ObjectEvent.raise("EndEdit", arguments);
+  row(1).raiseByName("EndEdit", arguments);
+  row(1).raiseByName("StartEdit", host::EventArgs());
+  row(2).raiseByName("EndEdit", arguments);
+  row(1).raiseByName("EndEdit", arguments);
+  row(1).raiseByName("EndEdit", arguments);
   EXPECT_EQ(events(), (Events{"ParameterStartEdit(1)", "ParameterEndEdit(1, True)"}));
 }
 

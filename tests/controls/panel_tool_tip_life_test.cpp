@@ -30,9 +30,9 @@ TEST_F(PanelToolTipLife, HoldsEveryStartAndEndBackUntilTheApplicationIsLeft) {
   showTipOverAnEditOf(1);
   bool changed = true;
   const host::EventArg arguments[] = {host::EventArg(changed)};
-  row(2).ObjectEvent.raise("StartEdit", {});
-  row(1).ObjectEvent.raise("StartEdit", {});
-  row(2).ObjectEvent.raise("EndEdit", arguments);
+  row(2).raiseByName("StartEdit", {});
+  row(1).raiseByName("StartEdit", {});
+  row(2).raiseByName("EndEdit", arguments);
   EXPECT_EQ(events(), Events{});
   user->switchesAway();
   EXPECT_EQ(events(), Events{"ParameterEndEdit(1, True)"});
@@ -41,10 +41,10 @@ TEST_F(PanelToolTipLife, HoldsEveryStartAndEndBackUntilTheApplicationIsLeft) {
 
 TEST_F(PanelToolTipLife, StaysWhenARowHearsThatTheApplicationIsLeft) {
   showTipOverAnEditOf(1);
-  row(2).ObjectEvent.raise("AppLostFocus", {});
+  row(2).raiseByName("AppLostFocus", {});
   EXPECT_EQ(events(), Events{"ParameterEndEdit(1, True)"});
   EXPECT_NE(tip(), nullptr);
-  row(2).ObjectEvent.raise("StartEdit", {});
+  row(2).raiseByName("StartEdit", {});
   EXPECT_EQ(events(), Events{"ParameterStartEdit(2)"});
 }
 
@@ -52,7 +52,7 @@ TEST_F(PanelToolTipLife, DeliversTheLastEndOnly) {
   showTipOverAnEditOf(1);
   bool changed = false;
   const host::EventArg arguments[] = {host::EventArg(changed)};
-  row(1).ObjectEvent.raise("EndEdit", arguments);
+  row(1).raiseByName("EndEdit", arguments);
   user->switchesAway();
   EXPECT_EQ(events(), Events{"ParameterEndEdit(1, False)"});
 }
@@ -85,7 +85,7 @@ TEST_F(PanelToolTipLife, ShownWhenAnEditEndsKeepsTheNextOneFromStarting) {
   user->focuses(row(1));
   startListening();
   const auto shows = panel().ParameterEndEdit.connect([&](std::int32_t&, bool&) { showTip("A"); });
-  row(2).ObjectEvent.raise("StartEdit", {});
+  row(2).raiseByName("StartEdit", {});
   EXPECT_EQ(events(), (Events{"ItemLostFocus(1)", "ParameterEndEdit(1, False)"}));  // the inner one first
 }
 
@@ -228,7 +228,7 @@ TEST_F(PanelToolTipLife, MayBeFollowedByAnotherOneThatAListenerShows) {
   EXPECT_EQ(next->RelatedControl(), Variant("C"));
   EXPECT_TRUE(next->hasFocus());
   startListening();
-  row(2).ObjectEvent.raise("StartEdit", {});
+  row(2).raiseByName("StartEdit", {});
   EXPECT_EQ(events(), Events{}) << "it holds edits back as any other";
   user->holds(host::key::Escape);
   EXPECT_EQ(tip(), nullptr);

@@ -219,7 +219,7 @@ TEST_F(PanelToolTip, GoesBeforeAClickOnThePanelIsHeard) {
   showTip("C");
   user->clicksAt({2, 150});  // the left margin
   showTip("C");
-  button.ObjectEvent.raise("Click", host::EventArgs());
+  button.raiseByName("Click", host::EventArgs());
   EXPECT_EQ(events(), (Events{"Click", "Click", "Click", "Click"}));
   EXPECT_EQ(tip(), nullptr);
 }

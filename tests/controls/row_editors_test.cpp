@@ -17,6 +17,15 @@ struct Kind {
   std::string_view frame;
 };
 
+// By name, without the caption, the unit and the icons.
+std::vector<std::string> editorsIn(const QRNEdit& row) {
+  std::vector<std::string> names;
+  for (const host::Control* part : row.contained()) {
+    if (part->Name().ends_with("Value")) names.push_back(part->Name());
+  }
+  return names;
+}
+
 class EachType : public RowTest, public ::testing::WithParamInterface<Kind> {};
 
 TEST_P(EachType, HasItsEditorUnderItsName) {
@@ -25,8 +34,7 @@ TEST_P(EachType, HasItsEditorUnderItsName) {
   EXPECT_EQ(row().ValueType(), type);
   ASSERT_NE(row().CurrentEditor(), nullptr);
   EXPECT_EQ(row().CurrentEditor()->typeName(), editor);
-  EXPECT_NE(row().controls().find(frame), nullptr);
-  EXPECT_EQ(row().controls().count(), 1);
+  EXPECT_EQ(editorsIn(row()), std::vector<std::string>{std::string(frame)});
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -43,7 +51,7 @@ TEST_F(AnEditor, IsMissingForAnArrayAndForUnknownTypes) {
     useType(qrnTypeBoolean);
     useType(static_cast<qrnValueType>(type));
     EXPECT_EQ(row().CurrentEditor(), nullptr) << type;
-    EXPECT_EQ(row().controls().count(), 0) << type;
+    EXPECT_TRUE(editorsIn(row()).empty()) << type;
     EXPECT_EQ(row().ValueType(), type);
   }
 }
@@ -67,7 +75,7 @@ TEST_F(AnEditor, IsDestroyedBeforeOneOfAnotherKindIsMade) {
     const bool hadOne = row().CurrentEditor() != nullptr;
     useType(type);
     EXPECT_EQ(static_cast<bool>(old), false) << hadOne;
-    EXPECT_EQ(row().controls().count(), type == qrnTypeArray ? 0 : 1) << type;
+    EXPECT_EQ(editorsIn(row()).size(), type == qrnTypeArray ? 0u : 1u) << type;
   }
 }
 

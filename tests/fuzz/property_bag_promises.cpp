@@ -4,9 +4,9 @@
 
 #include "buttons/QRNMenuItem.h"
 #include "display/QRNDisplay.h"
-#include "library/library.h"
 #include "host/class_table.h"
 #include "host/property_bag.h"
+#include "library/library.h"
 #include "platform/headless/headless_platform.h"
 #include "row/QRNEdit.h"
 #include "runtime/errors.h"
