@@ -156,12 +156,12 @@ void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const hos
   const int room = inside.width() - 2 * kTextMargin, left = inside.x() + kTextMargin;
   const auto topOf = [&](int height) { return inside.y() + (inside.height() - height + 1) / 2; };
   painter.setClipRect(inside, Qt::IntersectClip);
-  painter.setFont(metrics.font());
   painter.setPen(textColor(palette, box.enabledUpToSurface()));
   const int height = static_cast<int>(metrics.height());
   if (isLatin(text)) {
-    const int scrolled = scrolledBy(alignment, qRound(metrics.advance(toUtf8(text))) + 1, room);
-    painter.drawText(QPointF(left - scrolled, topOf(height) + metrics.ascent()), text);
+    const std::string shown = toUtf8(text);
+    const int scrolled = scrolledBy(alignment, qRound(metrics.advance(shown)) + 1, room);
+    drawText(painter, QPointF(left - scrolled, topOf(height) + metrics.ascent()), shown, metrics);
     return;
   }
   // Letters of other fonts may be taller; a line edit centres the whole line and rounds what they add.

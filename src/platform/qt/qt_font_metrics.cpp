@@ -2,7 +2,9 @@
 
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QPainter>
 #include <QScreen>
+#include <cmath>
 
 #include "base/text.h"
 #include "platform/qt/qt_text.h"
@@ -38,6 +40,9 @@ QtFontMetrics::QtFontMetrics(const host::Font& font) : font_(toQFont(font)), sha
   height_ = whole.height();
   ascent_ = whole.ascent();
   letters_.fill(kUnknown);
+  glyphs_.fill(kNotAsked);
+  raw_ = QRawFont::fromFont(font_);
+  run_.setRawFont(raw_);
 }
 
 double QtFontMetrics::shaped(std::string_view text) const {
@@ -71,6 +76,50 @@ double QtFontMetrics::advance(std::string_view text) {
     before = c;
   }
   return width;
+}
+
+quint32 QtFontMetrics::glyph(unsigned char c) {
+  quint32& kept = glyphs_[c];
+  if (kept == kNotAsked) {
+    const QList<quint32> found = raw_.glyphIndexesForString(QString(QChar(c)));
+    kept = found.size() == 1 ? found.front() : kNoGlyph;
+  }
+  return kept;
+}
+
+const QGlyphRun* QtFontMetrics::glyphs(std::string_view text) {
+  if (font_.underline() || font_.strikeOut() || !raw_.isValid()) return nullptr;
+  QList<quint32> indexes;
+  QList<QPointF> places;
+  double x = 0;
+  char32_t before = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t c = text::next(text, at);
+    if (c < 0x20 || c >= kLetters || mayJoin(before, c)) return nullptr;
+    const auto letterCode = static_cast<unsigned char>(c);
+    const quint32 index = glyph(letterCode);
+    if (index == kNoGlyph) return nullptr;
+    if (before != 0) x += kerning(static_cast<unsigned char>(before), letterCode);
+    indexes.append(index);
+    places.append(QPointF(x, 0));
+    x += letter(letterCode);
+    before = c;
+  }
+  run_.setGlyphIndexes(indexes);
+  run_.setPositions(places);
+  return &run_;
+}
+
+void drawText(QPainter& painter, QPointF at, std::string_view text, QtFontMetrics& metrics) {
+  // Between two scales Qt rounds the places of the letters in its own way.
+  const double scale = painter.deviceTransform().m11();
+  const QGlyphRun* const glyphs = scale == std::floor(scale) ? metrics.glyphs(text) : nullptr;
+  if (glyphs) {
+    painter.drawGlyphRun(at, *glyphs);
+    return;
+  }
+  painter.setFont(metrics.font());
+  painter.drawText(at, toQString(text));
 }
 
 }  // namespace qrn::qt

@@ -2,10 +2,14 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QRawFont>
 #include <array>
 #include <vector>
 
 #include "host/font.h"
+
+class QPainter;
 
 namespace qrn::qt {
 
@@ -21,6 +25,10 @@ class QtFontMetrics final : public host::FontMetrics {
 
   const QFont& font() const { return font_; }
 
+  /// The glyphs of a text that the tables know, at the places that Qt would find after a while; null for what
+  /// it has to shape itself. Valid until the next call.
+  const QGlyphRun* glyphs(std::string_view text);
+
  private:
   // Letters up to U+00FF; beyond them pairs would fill too large a table.
   static constexpr std::size_t kLetters = 256;
@@ -29,6 +37,7 @@ class QtFontMetrics final : public host::FontMetrics {
   double shaped(std::string_view text) const;
   double letter(unsigned char c);
   double kerning(unsigned char first, unsigned char second);
+  quint32 glyph(unsigned char c);
 
   QFont font_;
   QFontMetricsF shaper_;
@@ -36,7 +45,15 @@ class QtFontMetrics final : public host::FontMetrics {
   double ascent_;
   std::array<float, kLetters> letters_;
   std::vector<float> kernings_;  // kLetters squared, by first and second
+
+  static constexpr quint32 kNoGlyph = 0, kNotAsked = 0xFFFFFFFF;
+  QRawFont raw_;
+  std::array<quint32, kLetters> glyphs_;
+  QGlyphRun run_;
 };
+
+/// Draws a text with its base line at a point, in the painter's pen.
+void drawText(QPainter& painter, QPointF at, std::string_view text, QtFontMetrics& metrics);
 
 /// The font of Qt for what a caller asked for: points are those of 96 to the inch, whatever the screen says.
 QFont toQFont(const host::Font& font);

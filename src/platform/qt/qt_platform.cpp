@@ -45,17 +45,22 @@ bool widgetIsGone(const host::Control& control) {
   return peer && !peer->widget();
 }
 
-// What has a widget wherever its surface has one: scroll bars, and the editor with the focus.
+// What has a widget wherever its surface has one: scroll bars. What nobody has looked at shows none.
 void realiseInside(host::ContainerControl& container) {
-  for (host::Control* control : container.contained()) {
+  for (host::Control* control : container.inside()) {
     if (widgetIsGone(*control)) control->dropPeer();
-    const host::PeerPolicy policy = control->peerPolicy();
-    const bool focused = policy == host::PeerPolicy::WhenFocused && control->input().focus() == control;
-    const bool seen = policy == host::PeerPolicy::WhenShown && control->Visible() && !control->covered();
-    if (focused || seen) control->realise();
-    if (focused) control->peer()->takeFocus();
-    if (auto* inner = dynamic_cast<host::ContainerControl*>(control)) realiseInside(*inner);
+    const bool wished = control->peerPolicy() == host::PeerPolicy::WhenShown;
+    if (wished && control->Visible() && !control->covered()) control->realise();
+    if (auto* inner = control->asContainer(); inner && inner->seen()) realiseInside(*inner);
   }
+}
+
+void realiseFocused(host::UserControl& surface) {
+  host::Control* const focused = surface.input().focus();
+  if (!focused || focused->peerPolicy() != host::PeerPolicy::WhenFocused) return;
+  if (widgetIsGone(*focused)) focused->dropPeer();
+  focused->realise();
+  focused->peer()->takeFocus();
 }
 
 }  // namespace
@@ -69,6 +74,7 @@ QWidget* QtPlatform::widget(host::UserControl& control) {
   if (!control.peer()) {
     control.realise();
     realiseInside(control);
+    realiseFocused(control);
   }
   return canvasOf(control);
 }

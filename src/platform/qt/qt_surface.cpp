@@ -109,12 +109,11 @@ void QtSurface::frame(const Rect& area, host::Color topLeft, host::Color bottomR
 }
 
 void QtSurface::text(Point topLeft, std::string_view text, const host::Font& font, host::Color color) {
-  const QtFontMetrics& metrics = platform_.metrics(font);
+  QtFontMetrics& metrics = platform_.metrics(font);
   const Point at = topLeft + origin();
   QPainter& painter = clippedPainter();
-  painter.setFont(metrics.font());
   painter.setPen(toQColor(platform_.resolve(color)));
-  painter.drawText(QPointF(aligned(at.x), aligned(at.y) + metrics.ascent()), toQString(text));
+  drawText(painter, QPointF(aligned(at.x), aligned(at.y) + metrics.ascent()), text, metrics);
 }
 
 void QtSurface::picture(Point topLeft, const host::Picture& picture) {
