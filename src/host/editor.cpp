@@ -24,7 +24,8 @@ void Editor::forgetMeasures() {
 
 double Editor::measured(std::string_view text) const {
   const UserControl& holder = *Parent();
-  FontMetrics& metrics = font_ ? platform().metrics(*font_) : holder.fontMetrics();
+  const bool own = font_ && font_ != holder.font();
+  FontMetrics& metrics = own ? platform().metrics(*font_) : holder.fontMetrics();
   return metrics.advance(text) / holder.pixelsPerUnit().x;
 }
 

@@ -142,6 +142,7 @@ void LifeCycle::startChild(Control& control, UserControl& parent, const std::str
   }
   user->site_ = &parent;
   user->font_ = parent.font();
+  user->metrics_ = &parent.fontMetrics();
   user->alive_ = true;
   user->initialize();
   container.put(control, parent, name);

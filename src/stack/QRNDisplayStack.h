@@ -64,9 +64,11 @@ class QRNDisplayStack final : public host::UserControl {
   Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/> ItemLostFocus;
   Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*MenuItemIndex*/>
       ItemMenuClick;
+  /// A key has gone down in a row or button, which goes on with it whatever a listener makes of it here.
   Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyCode*/,
         std::int16_t& /*Shift*/>
       ItemKeyDown;
+  /// A character was typed in a row or button, which goes on with it whatever a listener makes of it here.
   Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyAscii*/> ItemKeyPress;
   Event<std::int32_t& /*PageIndex*/, std::int32_t& /*ItemIndex*/, std::int16_t& /*KeyCode*/,
         std::int16_t& /*Shift*/>

@@ -66,6 +66,7 @@ double QtFontMetrics::kerning(unsigned char first, unsigned char second) {
 }
 
 double QtFontMetrics::advance(std::string_view text) {
+  if (const std::optional<double> plain = plainAdvance(text)) return *plain;
   double width = 0;
   char32_t before = 0;
   for (std::size_t at = 0; at < text.size();) {
@@ -74,6 +75,26 @@ double QtFontMetrics::advance(std::string_view text) {
     if (before != 0) width += kerning(static_cast<unsigned char>(before), static_cast<unsigned char>(c));
     width += letter(static_cast<unsigned char>(c));
     before = c;
+  }
+  return width;
+}
+
+// Most texts are plain, and their few pairs lie close together.
+std::optional<double> QtFontMetrics::plainAdvance(std::string_view text) {
+  if (plainPairs_.empty()) plainPairs_.assign(kPlain * kPlain, kUnknown);
+  double width = 0;
+  unsigned char before = 0;
+  for (const char c : text) {
+    const auto code = static_cast<unsigned char>(c);
+    if (code < kFirstPlain || code >= kFirstPlain + kPlain || mayJoin(before, code)) return std::nullopt;
+    if (before == 0) {
+      width = letter(code);
+    } else {
+      float& added = plainPairs_[(before - kFirstPlain) * kPlain + (code - kFirstPlain)];
+      if (added == kUnknown) added = static_cast<float>(kerning(before, code) + letter(code));
+      width += static_cast<double>(added);
+    }
+    before = code;
   }
   return width;
 }

@@ -5,6 +5,7 @@
 #include <QGlyphRun>
 #include <QRawFont>
 #include <array>
+#include <optional>
 #include <vector>
 
 #include "host/font.h"
@@ -37,6 +38,7 @@ class QtFontMetrics final : public host::FontMetrics {
   double shaped(std::string_view text) const;
   double letter(unsigned char c);
   double kerning(unsigned char first, unsigned char second);
+  std::optional<double> plainAdvance(std::string_view text);
   quint32 glyph(unsigned char c);
 
   QFont font_;
@@ -45,6 +47,10 @@ class QtFontMetrics final : public host::FontMetrics {
   double ascent_;
   std::array<float, kLetters> letters_;
   std::vector<float> kernings_;  // kLetters squared, by first and second
+
+  // The printable letters of ASCII, and what each adds behind another one.
+  static constexpr std::size_t kFirstPlain = 0x20, kPlain = 0x60;
+  std::vector<float> plainPairs_;
 
   static constexpr quint32 kNoGlyph = 0, kNotAsked = 0xFFFFFFFF;
   QRawFont raw_;
