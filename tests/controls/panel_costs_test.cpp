@@ -99,7 +99,7 @@ class PanelCosts : public ::testing::Test {
   static void collect(host::Control& control, std::vector<const headless::HeadlessPeer*>& peers) {
     if (control.peer()) peers.push_back(static_cast<headless::HeadlessPeer*>(control.peer()));
     if (auto* container = dynamic_cast<host::ContainerControl*>(&control)) {
-      for (host::Control* child : container->contained()) collect(*child, peers);
+      for (host::Control* child : container->inside()) collect(*child, peers);
     }
   }
 };
@@ -128,15 +128,26 @@ TEST_F(PanelCosts, AddingARowCostsTheSameHoweverManyThereAre) {
   EXPECT_EQ(thousandth.measured, twentieth.measured);
 }
 
+TEST_F(PanelCosts, ARowThatNobodyHasSeenGoesWithoutGettingPartsFirst) {
+  addRows(30);
+  panel->LayoutControls(false);
+  panel->realise();
+  row(29).lblLabel();
+  const Cost seen = costOf([&] { panel->Items().Remove(Variant(29)); });
+  const Cost unseen = costOf([&] { panel->Items().Remove(Variant(28)); });
+  EXPECT_LE(unseen.allocated, seen.allocated);
+}
+
 TEST_F(PanelCosts, AnEventOfAnyRowAllocatesNothing) {
   addRows(1000);
   int heard = 0;
   const auto connection = panel->ParameterIcon2Click.connect([&](std::int32_t& index) { heard += index; });
   const auto clickIcon = [&](std::int32_t position) {
     QRNEdit& clicked = row(position);
+    host::Image& icon = clicked.imgIcon2();
     return costOf([&] {
-      clicked.childMouseDown(clicked.imgIcon2(), host::MouseButton::Left, 0, {1, 1});
-      clicked.childMouseUp(clicked.imgIcon2(), host::MouseButton::Left, 0, {1, 1});
+      clicked.childMouseDown(icon, host::MouseButton::Left, 0, {1, 1});
+      clicked.childMouseUp(icon, host::MouseButton::Left, 0, {1, 1});
     });
   };
   EXPECT_EQ(clickIcon(5).allocated, 0);

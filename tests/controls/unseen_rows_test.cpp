@@ -66,6 +66,15 @@ TEST_F(UnseenRows, StayAsTheyWereSeenWhileTheyAreNotToBeLaidOut) {
   EXPECT_EQ(row(1).CurrentEditor()->Left(), left + 50);
 }
 
+TEST_F(UnseenRows, AreArrangedFirstWhenTheyStillWereToBeAndMayNotBeAnyMore) {
+  paint();
+  const double left = row(1).CurrentEditor()->Left();
+  row(1).SetLabelWidth(row(1).LabelWidth() + 10);
+  row(1).SetRedraw(false);
+  row(1).SetLabelWidth(row(1).LabelWidth() + 50);
+  EXPECT_EQ(row(1).CurrentEditor()->Left(), left + 10);
+}
+
 // ---- when the columns are fitted again ----
 
 TEST_F(UnseenRows, AreNotFittedAgainUntilSomethingHasChangedThatCounts) {
