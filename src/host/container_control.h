@@ -85,8 +85,8 @@ class ContainerControl : public Control {
   void tellArranged();
   void put(Control& control, UserControl& parent, const std::string& name);
 
-  /// Calls for each child that may reach into what lies between two heights in pixels, the last one on top,
-  /// until it is answered with true.
+  /// Calls for each child that may reach into what lies between two heights in pixels, in painting order or
+  /// the other way round, until it is answered with true.
   template <class Visit>
   void visit(double top, double bottom, bool topmostFirst, Visit&& visit) const;
 
