@@ -82,7 +82,8 @@ std::string_view slice(std::string_view utf8, std::size_t position, std::size_t 
 bool sameName(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   if (a == b) return true;
-  for (std::size_t i = 0; i < a.size(); ++i) {
+  // From the end: names that are much alike mostly begin alike.
+  for (std::size_t i = a.size(); i-- > 0;) {
     if (lower(static_cast<unsigned char>(a[i])) != lower(static_cast<unsigned char>(b[i]))) return false;
   }
   return true;

@@ -29,8 +29,8 @@ class Picture final : public Object {
   std::string_view typeName() const override { return "Picture"; }
 
   /// Logical pixels.
-  double width() const { return bitmap(1).width; }
-  double height() const { return bitmap(1).height; }
+  double width() const { return empty() ? 0 : scales_.front().width; }
+  double height() const { return empty() ? 0 : scales_.front().height; }
   Size size() const { return {width(), height()}; }
 
   /// Has no pixels at all; a picture of transparent pixels is not empty.

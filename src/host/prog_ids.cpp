@@ -32,18 +32,26 @@ constexpr ProgId kStandardClasses[] = {
 
 std::span<const ProgId> classesAbove;
 
+const ProgId* find(std::string_view progId) {
+  for (const auto list : {std::span<const ProgId>(kStandardClasses), classesAbove}) {
+    for (const ProgId& known : list) {
+      if (known.name.size() == progId.size() && text::sameName(known.name, progId)) return &known;
+    }
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 void setControlClasses(std::span<const ProgId> classes) { classesAbove = classes; }
 std::span<const ProgId> controlClasses() { return classesAbove; }
 
 Owned<Control> createByProgId(std::string_view progId) {
-  for (const auto list : {std::span<const ProgId>(kStandardClasses), classesAbove}) {
-    for (const ProgId& known : list) {
-      if (text::sameName(known.name, progId)) return known.create();
-    }
-  }
-  raiseRunTimeError(kCannotCreateObject, progId);
+  const ProgId* known = find(progId);
+  if (!known) raiseRunTimeError(kCannotCreateObject, progId);
+  return known->create();
 }
+
+bool isControlClass(std::string_view progId) { return find(progId) != nullptr; }
 
 }  // namespace qrn::host

@@ -16,6 +16,9 @@ struct ProgId {
 /// Makes a control by its ProgID, whose case does not count. Errors: 429 for an unknown one.
 Owned<Control> createByProgId(std::string_view progId);
 
+/// Whether it would be made.
+bool isControlClass(std::string_view progId);
+
 /// The classes of the layer above, which it hands down once; a static library would drop self-registering
 /// ones.
 void setControlClasses(std::span<const ProgId> classes);

@@ -71,7 +71,7 @@ std::intptr_t UserControl::windowMessage(const Message& message) {
   return message.number == wm::GetDlgCode ? dlgc::WantAllKeys : ContainerControl::windowMessage(message);
 }
 
-bool UserControl::propertyChanged(std::string_view key) {
+bool UserControl::tellSite(std::string_view key) {
   const WeakRef<Control> self(this);
   site_->propertyChanged(*this, key);
   return static_cast<bool>(self);
@@ -169,12 +169,12 @@ Control& Controls::add(std::string_view progId, std::string_view name, Container
 }
 
 Control& Controls::add(Owned<Control> control, std::string_view name, ContainerControl& container) {
-  if (list_.find(name) || ownPart(name)) raiseRunTimeError(kControlNameUsed, owner_.typeName());
   Control& added = *control;
-  const std::string& kept = list_.add(std::string(name), std::move(control)).key;
+  const auto* entry = ownPart(name) ? nullptr : list_.addNew(std::string(name), std::move(control));
+  if (!entry) raiseRunTimeError(kControlNameUsed, owner_.typeName());
   const WeakRef<Control> guard(&added);
   try {
-    LifeCycle::startChild(added, owner_, kept, container);
+    LifeCycle::startChild(added, owner_, entry->key, container);
   } catch (...) {
     if (guard && find(name) == &added) remove(name);
     throw;

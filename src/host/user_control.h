@@ -112,8 +112,9 @@ class UserControl : public ContainerControl, public Site {
   /// A control of the collection has been removed by its name, whoever did it.
   virtual void controlRemoved(std::string_view /*name*/) {}
 
-  /// Tells the site, which may do anything: answers whether the control is still there.
-  bool propertyChanged(std::string_view key);
+  /// Tells the site, which may do anything: answers whether the control is still there. A user control has
+  /// nothing to do with the properties of those inside it.
+  bool propertyChanged(std::string_view key) { return Parent() || tellSite(key); }
   using Site::propertyChanged;
 
   void setFont(FontPtr font);
@@ -127,6 +128,8 @@ class UserControl : public ContainerControl, public Site {
   void lostFocus() override;
 
  private:
+  bool tellSite(std::string_view key);
+
   Site* site_ = nullptr;
   std::unique_ptr<Controls> controls_;
   std::unique_ptr<Input> input_;

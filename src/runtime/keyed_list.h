@@ -46,8 +46,15 @@ class KeyedList {
   /// Appends, or inserts before a position in 1..count. The entry stays where it is in memory until removed.
   /// Errors: 457 for a key in use.
   Entry& add(std::string key, T value, std::int32_t before = 0) {
+    Entry* const added = addNew(std::move(key), std::move(value), before);
+    if (!added) raiseRunTimeError(kKeyAlreadyUsed);
+    return *added;
+  }
+
+  /// The same; null for a key in use.
+  Entry* addNew(std::string key, T value, std::int32_t before = 0) {
     const std::uint32_t hash = hashOf(key);
-    if (find(hash, key)) raiseRunTimeError(kKeyAlreadyUsed);
+    if (find(hash, key)) return nullptr;
     const std::int32_t position = before >= 1 && before <= count() ? before : count() + 1;
     auto entry = std::make_unique<Entry>(Entry{std::move(key), std::move(value), position, hash});
     Entry& added = *entry;
@@ -57,7 +64,7 @@ class KeyedList {
       index_.insert(added);
     else if (count() > kFew)
       for (const auto& one : entries_) index_.insert(*one);
-    return added;
+    return &added;
   }
 
   /// Takes the entry out and hands its value to the caller. Errors: 9 outside 1..count.
