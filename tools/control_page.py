@@ -53,8 +53,11 @@ class Library:
         return self.classes[name]
 
     def lines_up(self, name):
-        """The class and those that it is made from."""
+        """The class, the one that has its events, and those that it is made from."""
         result = [self.header(name)]
+        events = result[0].find("events")
+        if events:
+            result.append(self.header(events.result.rstrip("& ")))
         for base in result[0].bases:
             if base in ("PanelItem", "CompositeEditor", "UserControl", "ContainerControl", "Control"):
                 result += self.lines_up(base)
@@ -211,7 +214,9 @@ def control_page(library, entry):
     text += "[every control](Control.md).\n"
     text += section("Properties", grouped(page, rows))
     text += section("Methods", table(METHODS, page.methods([one for one in members if one not in accessors])))
-    text += section("Events", table(EVENTS, page.events([page.find(name) for name in entry.events])))
+    events = header.find("events")
+    where = f"`events()` has them. {escaped(events.doc)}\n\n" if events else ""
+    text += section("Events", where + table(EVENTS, page.events([page.find(name) for name in entry.events])))
     return text
 
 

@@ -176,24 +176,25 @@ host::Control* QRNDisplay::nextTabStop(host::Control* from, bool forward) {
   // From a tool tip on, it goes to the neighbours of what that is about.
   if (toolTip() && toolTip()->hasFocus()) from = relatedTo(*toolTip());
   while (from && !isTop(from)) from = from->Container();
-  std::vector<host::Control*> stops;
+  std::vector<host::Control*> all;
   const auto addSorted = [&](auto controls) {
-    const auto first = static_cast<std::ptrdiff_t>(stops.size());
+    const auto first = static_cast<std::ptrdiff_t>(all.size());
     for (host::Control* control : controls) {
-      if (control && control->Visible() && (control == from || control->focusTarget()))
-        stops.push_back(control);
+      if (control && control->Visible()) all.push_back(control);
     }
-    std::stable_sort(stops.begin() + first, stops.end(),
+    std::stable_sort(all.begin() + first, all.end(),
                      [](const auto* a, const auto* b) { return a->TabIndex() < b->TabIndex(); });
   };
   std::vector<host::Control*> items;
   for (const PanelItemPtr& item : *items_) items.push_back(item->control());
   addSorted(std::move(items));
   if (hasButtons()) addSorted(buttonsContainer_.contained());
-  if (!forward) std::reverse(stops.begin(), stops.end());
-  const auto at = std::find(stops.begin(), stops.end(), from);
-  const auto next = at == stops.end() ? stops.begin() : std::next(at);
-  return next == stops.end() ? nullptr : *next;
+  if (!forward) std::reverse(all.begin(), all.end());
+  const auto at = std::find(all.begin(), all.end(), from);
+  const auto behind = at == all.end() ? all.begin() : std::next(at);
+  // Rows have no editor yet before somebody asks for it: only those on the way are asked.
+  const auto next = std::find_if(behind, all.end(), [](auto* control) { return control->focusTarget(); });
+  return next == all.end() ? nullptr : *next;
 }
 
 }  // namespace qrn

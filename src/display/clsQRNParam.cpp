@@ -135,10 +135,10 @@ std::string_view clsQRNParam::stateError() const {
 }
 
 void clsQRNParam::tellFacts(const host::Control& inside, host::AccessibleFacts& facts) const {
-  QRNEdit& row = Control();
+  const QRNEdit& row = Control();
   if (row.isIcon2(inside)) {
     if (facts.name.empty()) facts.name = lookOf(state_, dynamicPhase_).words;
-  } else if (&inside == row.CurrentEditor() || facts.role == host::AccessibleRole::Label) {
+  } else if (row.isEditor(inside) || facts.role == host::AccessibleRole::Label) {
     facts.error = stateError();
   }
 }

@@ -9,8 +9,6 @@ class ComboBox final : public ListEditor {
  public:
   std::string_view typeName() const override { return "ComboBox"; }
 
-  /// The chosen entry's text; empty when none is.
-  std::string Text() const { return ListIndex() < 0 ? std::string() : List(ListIndex()); }
   bool Locked() const { return locked_; }
   void SetLocked(bool locked) { change(locked_, locked, Aspect::Enabled); }
 

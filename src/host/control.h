@@ -187,7 +187,12 @@ class Control : public Object {
   void raise(Event<Args...>& event, std::string_view name, std::type_identity_t<Args>... args) {
     const WeakRef<Control> self(this);
     event.raise(args...);
-    if (!self || (!follower_ && !ObjectEvent.hasListeners())) return;
+    if (self) raiseByName<Args...>(name, args...);
+  }
+  /// For the listeners by name only.
+  template <class... Args>
+  void raiseByName(std::string_view name, std::type_identity_t<Args>... args) {
+    if (!follower_ && !ObjectEvent.hasListeners()) return;
     if constexpr (sizeof...(Args) == 0) {
       raiseByName(name, EventArgs());
     } else {

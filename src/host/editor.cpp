@@ -22,13 +22,6 @@ void Editor::forgetMeasures() {
   if (Parent()) Parent()->childMeasureChanged(*this);
 }
 
-double Editor::measured(std::string_view text) const {
-  const UserControl& holder = *Parent();
-  const bool own = font_ && font_ != holder.font();
-  FontMetrics& metrics = own ? platform().metrics(*font_) : holder.fontMetrics();
-  return metrics.advance(text) / holder.pixelsPerUnit().x;
-}
-
 void Editor::paint(Surface& surface, Size) { platform().paintControl(surface, *this); }
 
 }  // namespace qrn::host

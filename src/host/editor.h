@@ -33,8 +33,6 @@ class Editor : public Control {
 
  protected:
   explicit Editor(Color backColor = kWindowBackground) : backColor_(backColor) {}
-  /// In the editor's font and the holder's scale units.
-  double measured(std::string_view text) const;
   /// What was measured in the font before is worth nothing now.
   virtual void forgetMeasures();
 

@@ -37,11 +37,6 @@ std::string TextBox::shownText() const {
   return stars;
 }
 
-double TextBox::textWidth() const {
-  if (textWidth_ == kUnknown) textWidth_ = measured(text_);
-  return textWidth_;
-}
-
 void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength) {
   std::string wanted(text);
   if (upperCase_) wanted = qrn::upperCase(std::string_view(wanted));

@@ -32,9 +32,6 @@ class TextBox final : public Editor {
 
   /// What a person sees in the box.
   std::string shownText() const;
-  /// The width of the text itself, whatever a password shows of it, in the holder's scale units. Measured
-  /// once for each text and font.
-  double textWidth() const;
 
   void userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength = 0);
   void userSelected(std::int32_t start, std::int32_t length);
@@ -44,21 +41,14 @@ class TextBox final : public Editor {
   void windowStyleChanged(std::intptr_t style) override;
 
  protected:
-  void forgetMeasures() override {
-    textWidth_ = kUnknown;
-    Editor::forgetMeasures();
-  }
   void tellFacts(AccessibleFacts& facts) const override;
   bool accessibleEnter(std::string_view text) override;
 
  private:
   void store(std::string text);
 
-  static constexpr double kUnknown = -1;
-
   std::string text_;
   std::unique_ptr<std::string> passwordChar_;  // null while the text is shown
-  mutable double textWidth_ = kUnknown;
   std::int32_t maxLength_ = 0;
   std::int32_t selStart_ = 0;
   std::int32_t selLength_ = 0;

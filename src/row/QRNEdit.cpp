@@ -1,8 +1,7 @@
 #include "row/QRNEdit.h"
 
 #include "diag/QRNErrors.h"
-#include "row/focus_watch.h"
-#include "row/icon_tracking.h"
+#include "row/row_extras.h"
 #include "runtime/rounding.h"
 
 namespace qrn {
@@ -30,7 +29,7 @@ void QRNEdit::show() {
 
 void QRNEdit::terminate() {
   stopTracking();
-  focusWatch_.reset();
+  if (extras_) extras_->focusWatch.reset();
   removeEditor();
 }
 
@@ -57,7 +56,7 @@ void QRNEdit::SetScaleMode(std::int16_t mode) {
   if (parts_) settle();
   setScaleMode(mode);
   rescaleParts(before);
-  if (auto* composite = compositeEditor()) composite->SetScaleMode(mode);
+  if (auto* composite = editor_.composite()) composite->SetScaleMode(mode);
   applyFont();
   if (propertyChanged("ScaleMode")) layOut();
 }
@@ -77,7 +76,7 @@ void QRNEdit::rescaleParts(Point pixelsBefore) {
 void QRNEdit::SetBackColor(host::Color color) {
   if (color == backColor()) return;
   setBackColor(color);
-  if (chkValue()) chkValue()->Check().SetBackColor(color);
+  if (editor_.check()) editor_.check()->Check().SetBackColor(color);
   propertyChanged("BackColor");
 }
 
@@ -120,10 +119,14 @@ const std::string& QRNEdit::toolTip(std::string RowToolTips::*part) const {
   return (toolTips_ ? *toolTips_ : none).*part;
 }
 
+RowToolTips& QRNEdit::toolTips() {
+  if (!toolTips_) toolTips_ = std::make_unique<RowToolTips>();
+  return *toolTips_;
+}
+
 void QRNEdit::setToolTip(std::string RowToolTips::*part, const std::string& text, std::string_view key) {
   if (text == toolTip(part)) return;
-  if (!toolTips_) toolTips_ = std::make_unique<RowToolTips>();
-  (*toolTips_).*part = text;
+  toolTips().*part = text;
   if (parts_) applyToolTips();
   propertyChanged(key);
 }
@@ -168,24 +171,19 @@ void QRNEdit::setIconHidden(RowIcon& icon, bool hidden, std::string_view key) {
   propertyChanged(key);
 }
 
-std::int32_t QRNEdit::ValueWidth() const { return editorFrame() ? wholeWidth(valueWidth_) : 0; }
+std::int32_t QRNEdit::ValueWidth() const { return editor_.exists() ? wholeWidth(valueWidth_) : 0; }
 
 void QRNEdit::SetValueWidth(std::int32_t width) {
-  if (editorFrame()) setWidth(valueWidth_, width, "ValueWidth");
+  if (editor_.exists()) setWidth(valueWidth_, width, "ValueWidth");
 }
 
 const std::string& QRNEdit::ValueToolTip() const {
-  static const std::string none;
-  const host::Editor* editor = CurrentEditor();
-  return editor ? editor->ToolTipText() : none;
+  return editor_.inner() ? editor_.inner()->ToolTipText() : toolTip(&RowToolTips::value);
 }
 
 void QRNEdit::SetValueToolTip(const std::string& text) {
-  host::Editor* editor = CurrentEditor();
-  if (!editor || text == editor->ToolTipText()) return;
-  editor->SetToolTipText(text);
-  // A disabled check box shows no tool tip; what lies under it does.
-  if (chkValue()) chkValue()->SetToolTipText(text);
+  if (!editor_.exists() || text == ValueToolTip()) return;
+  applyValueToolTip(text);
   propertyChanged("ValueToolTip");
 }
 
@@ -200,15 +198,9 @@ void QRNEdit::SetValueAlignment(std::int32_t alignment) {
 
 void QRNEdit::SetLocked(bool locked) { storeAndApply(locked_, locked, "Locked", &QRNEdit::applyLocked); }
 
-host::Color QRNEdit::ValueForeColor() const {
-  const host::Editor* editor = CurrentEditor();
-  return editor ? editor->ForeColor() : host::kWindowText;
-}
-
 void QRNEdit::SetValueForeColor(host::Color color) {
-  host::Editor* editor = CurrentEditor();
-  if (!editor || color == editor->ForeColor()) return;
-  editor->SetForeColor(color);
+  if (!editor_.exists() || color == ValueForeColor()) return;
+  editor_.setForeColor(color);
   propertyChanged("ValueForeColor");
 }
 
@@ -245,7 +237,8 @@ void QRNEdit::SetValueFormat(const std::string& format) {
 }
 
 void QRNEdit::SetSelection(std::int32_t StartSel, std::int32_t SelLength) {
-  if (txtValue()) txtValue()->select(StartSel, SelLength);
+  if (editor_.kind() == ValueEditor::Kind::TextBox)
+    static_cast<host::TextBox*>(CurrentEditor())->select(StartSel, SelLength);
 }
 
 }  // namespace qrn

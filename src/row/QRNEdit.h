@@ -6,21 +6,18 @@
 #include <string>
 #include <string_view>
 
-#include "buttons/context_menu.h"
 #include "enums/enumerations.h"
-#include "hooks/clsQRNEDitSubClass.h"
 #include "host/editor.h"
-#include "host/text_box.h"
-#include "host/timer.h"
+#include "host/popup_menu.h"
 #include "host/user_control.h"
+#include "row/row_events.h"
 #include "row/row_parts.h"
+#include "row/value_editor.h"
 #include "row/value_settings.h"
-#include "values/QRNBitList.h"
-#include "values/QRNCheck.h"
-#include "values/QRNDropList.h"
-#include "values/clsQRNArray.h"
 
 namespace qrn {
+
+class clsQRNArray;
 
 /// One parameter of a device as a row: caption, value editor, unit and up to two status icons.
 /// Lengths are in the row's own scale (pixels unless ScaleMode says otherwise).
@@ -147,7 +144,7 @@ class QRNEdit final : public host::UserControl {
   bool ValueVisible() const { return valueVisible_; }
   void SetValueVisible(bool visible) { storeAndLayOut(valueVisible_, visible, "ValueVisible"); }
   /// Of the text in the editor.
-  host::Color ValueForeColor() const;
+  host::Color ValueForeColor() const { return editor_.foreColor(); }
   void SetValueForeColor(host::Color color);
   /// Whether what is typed becomes upper case.
   bool ValueUpperCase() const { return valueUpperCase_; }
@@ -237,46 +234,16 @@ class QRNEdit final : public host::UserControl {
   void SetSelection(std::int32_t StartSel, std::int32_t SelLength);
   /// Adds an entry to the context menu, whose index is the number of entries so far, from 1 on. Null when
   /// that is taken, as it can be after entries were removed from the middle.
-  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption) {
-    return menu_.add(MenuCaption);
-  }
+  std::shared_ptr<host::MenuEntry> AddMenuItem(std::string_view MenuCaption);
   /// 0 is the template of all others, which is never shown. Null for an index where nothing is loaded.
-  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index) { return menu_.entry(Index); }
+  std::shared_ptr<host::MenuEntry> GetMenuItem(std::int32_t Index);
   /// Ignored for 0 and for an index where nothing is loaded.
-  void RemoveMenuItem(std::int32_t Index) { menu_.remove(Index); }
+  void RemoveMenuItem(std::int32_t Index);
   /// Removes all entries; without any nothing pops up.
-  void RemoveMenu() { menu_.removeAll(); }
+  void RemoveMenu();
 
-  /// What the editor shows has changed.
-  Event<> Change;
-  /// An entry of a bit field was ticked or unticked; entries count from 0.
-  Event<std::int16_t& /*Item*/> ItemCheck;
-  /// The row was clicked where no part is.
-  Event<> BackgroundClick;
-  /// The caption was clicked.
-  Event<> LabelClick;
-  /// The unit was clicked.
-  Event<> UnitClick;
-  /// The first icon was clicked, in another mode than qrnbuttonNone.
-  Event<> Icon1Click;
-  /// The second icon was clicked, in another mode than qrnbuttonNone.
-  Event<> Icon2Click;
-  /// An entry of the context menu was chosen; the host's own count from 1.
-  Event<std::int16_t& /*Index*/> MenuClick;
-  /// A check box, drop list or bit list was clicked.
-  Event<> Click;
-  /// The user has gone into the editor, which is not locked.
-  Event<> StartEdit;
-  /// The user has left the editor, or the application; tells ValueChanged.
-  Event<bool& /*bChanged*/> EndEdit;
-  /// A key has gone down in the editor; setting its code to 0 takes it away.
-  Event<std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyDown;
-  /// A character was typed in the editor; setting it to 0 takes it away.
-  Event<std::int16_t& /*KeyAscii*/> KeyPress;
-  /// A key has come up in the editor.
-  Event<std::int16_t& /*KeyCode*/, std::int16_t& /*Shift*/> KeyUp;
-  /// The host has accepted a changed value, with ValueChanged.
-  Event<> StatusChange;
+  /// Made when somebody first asks for them: most rows are heard by their panel only, which listens by names.
+  RowEvents& events();
 
   /// Where a panel puts the row, and how wide it wants the parts.
   struct RowPlace {
@@ -294,8 +261,9 @@ class QRNEdit final : public host::UserControl {
   host::Label& lblUnit() { return seenParts().lblUnit; }
   host::Image& imgIcon1() { return seenParts().imgIcon1; }
   host::Image& imgIcon2() { return seenParts().imgIcon2; }
+  bool isEditor(const host::Control& inside) const { return &inside == editor_.inner(); }
   bool isIcon2(const host::Control& inside) const { return parts_ && &inside == &parts_->imgIcon2; }
-  /// The control in which the value is edited; null where the type has none.
+  /// The control in which the value is edited, made when it is first asked for; null where the type has none.
   host::Editor* CurrentEditor() const;
 
   void paint(host::Surface& surface, Size size) override;
@@ -342,7 +310,6 @@ class QRNEdit final : public host::UserControl {
     std::int32_t value = kUnknown;
     std::int32_t unit = kUnknown;
   };
-  enum class EditorKind : std::uint8_t { None, TextBox, Check, DropList, BitList, Array };
   struct ReadResult {
     Variant value = Null();
     qrnErrorCode error = qrnErrorNone;
@@ -368,6 +335,7 @@ class QRNEdit final : public host::UserControl {
   static std::int32_t wholeWidth(double width);
   void setWidth(double& part, std::int32_t width, std::string_view key);
   const std::string& toolTip(std::string RowToolTips::*part) const;
+  RowToolTips& toolTips();
   void setToolTip(std::string RowToolTips::*part, const std::string& text, std::string_view key);
   void setText(RowText& part, const std::string& text, std::string_view key);
   void applyToolTips();
@@ -377,12 +345,10 @@ class QRNEdit final : public host::UserControl {
   void setIconMode(RowIcon& icon, qrnButtonMode mode, std::string_view key);
 
   // ---- the editor (QRNEdit_editor.cpp) ----
-  static EditorKind editorKind(qrnValueType type);
   bool takeFocusFromEditor(qrnValueType nextType);
   void switchEditor(qrnValueType type);
-  void createEditor(EditorKind kind);
   void removeEditor();
-  void addEditor(std::string_view progId, std::string_view name);
+  void makeEditor();
   void applySettings();
   void applyAlignment();
   void applyLocked();
@@ -391,25 +357,19 @@ class QRNEdit final : public host::UserControl {
   void applyPassword();
   void applyEnabled();
   void applyFont();
-  host::ListEditor* listEditor() const;
-  /// The type has an editor, but it has not been made: no type was assigned yet, or its class is not known.
-  bool lacksEditor() const { return editorKind(valueType_) != editorKind_; }
-  /// The control of the row in which the editor lies: the text box itself, or the user control around the
-  /// others.
-  host::Control* editorFrame() const { return editor_.get(); }
-  template <class T>
-  T* editorOf(EditorKind kind) const {
-    return editorKind_ == kind ? static_cast<T*>(editor_.get()) : nullptr;
-  }
-  host::TextBox* txtValue() const { return editorOf<host::TextBox>(EditorKind::TextBox); }
-  QRNCheck* chkValue() const { return editorOf<QRNCheck>(EditorKind::Check); }
-  QRNDropList* cboValue() const { return editorOf<QRNDropList>(EditorKind::DropList); }
-  QRNBitList* lstValue() const { return editorOf<QRNBitList>(EditorKind::BitList); }
-  CompositeEditor* compositeEditor() const;
+  void passFont();
+  void applyValueToolTip(const std::string& text);
+  /// The type has an editor, but there is none: no type was assigned yet, or its class is not known.
+  bool lacksEditor() const { return ValueEditor::kindFor(valueType_) != editor_.kind(); }
+
+  // ---- the array (QRNEdit_array.cpp) ----
+  clsQRNArray* array() const;
+  clsQRNArray& neededArray();
 
   // ---- the value (QRNEdit_value.cpp) ----
   void showValue(const Variant& value);
   void showInEditor(const Variant& value);
+  void enterText(std::string_view text);
   void showText(std::string shown);
   void showCheck(bool ticked);
   void showList(const Variant& value);
@@ -450,12 +410,21 @@ class QRNEdit final : public host::UserControl {
   double pictureWidth(const RowIcon& icon) const;
   std::int32_t iconWidth(const RowIcon& icon) const;
   std::int32_t measuredValueWidth() const;
+  double widestEntry() const;
   void forgetMeasure(std::int32_t Measures::*part);
   double overhead(double spacing) const;
   std::int32_t textHeight() const;
   std::int32_t rowHeight() const;
 
   // ---- events (QRNEdit_events.cpp) ----
+  struct RowExtras& extras();
+  template <class... Args>
+  void raise(Event<Args...> RowEvents::*event, std::string_view name, std::type_identity_t<Args>... args) {
+    if (events_)
+      Control::raise((*events_).*event, name, args...);
+    else
+      raiseByName<Args...>(name, args...);
+  }
   bool beginEdit();
   bool endEdit();
   void watchApplication();
@@ -474,12 +443,12 @@ class QRNEdit final : public host::UserControl {
   mutable Measures minimum_;
   mutable std::int32_t textHeight_ = Measures::kUnknown;
   std::int32_t horizontalSpacing_ = 4;
-  EditorKind editorKind_ = EditorKind::None;
   bool labelVisible_ = true;
   bool valueVisible_ = true;
   bool unitVisible_ = true;
   bool redraw_ = false;
   bool editorShown_ = true;  // the last that the editor was told
+  bool makingEditor_ = false;
 
   RowText label_;
   RowText unit_;
@@ -487,16 +456,13 @@ class QRNEdit final : public host::UserControl {
   RowIcon icon2_{{}, 4};
   std::unique_ptr<RowToolTips> toolTips_;
   std::unique_ptr<RowParts> parts_;
-  host::Owned<host::Control> editor_;  // of the kind that editorKind_ tells
+  ValueEditor editor_;
 
   Variant storedValue_;
   Variant displayBaseline_;
   ValueSettings settings_;
-  std::unique_ptr<clsQRNArray> array_;
-  ContextMenu menu_;
-  std::unique_ptr<struct IconTracking> tracking_;
-  std::unique_ptr<struct FocusWatch> focusWatch_;   // while the row has the focus
-  std::unique_ptr<clsQRNEDitSubClass> editorHook_;  // from the moment on when the editor has a window
+  std::unique_ptr<RowEvents> events_;
+  std::unique_ptr<struct RowExtras> extras_;
 
   qrnValueType valueType_ = qrnTypeString;
   std::int32_t alignment_ = 0;

@@ -33,7 +33,7 @@ host::Control* QRNEdit::accessiblePart(std::int32_t index) {
 }
 
 std::int32_t QRNEdit::accessibleCount() const {
-  const std::int32_t editor = valueVisible_ && CurrentEditor() ? 1 : 0;
+  const std::int32_t editor = valueVisible_ && editor_.exists() ? 1 : 0;
   return editor + (isSeenByTools(icon1_) ? 1 : 0) + (isSeenByTools(icon2_) ? 1 : 0);
 }
 
@@ -43,7 +43,7 @@ AccessibleNode QRNEdit::accessibleChild(std::int32_t index) { return {accessible
 // all that there is to be read.
 void QRNEdit::tellFacts(AccessibleFacts& facts) const {
   facts.role = AccessibleRole::Group;
-  if (valueVisible_ && CurrentEditor()) return;
+  if (valueVisible_ && editor_.exists()) return;
   facts.role = AccessibleRole::Label;
   facts.name = accessibleName();
   facts.description = LabelToolTip();
@@ -51,7 +51,7 @@ void QRNEdit::tellFacts(AccessibleFacts& facts) const {
 }
 
 void QRNEdit::tellFactsOf(const host::Control& inside, AccessibleFacts& facts) const {
-  if (&inside == CurrentEditor()) {
+  if (&inside == editor_.inner()) {
     facts.name = accessibleName();
     facts.description = accessibleDescription();
     facts.states.readOnly = locked_;

@@ -1,8 +1,6 @@
-#include <array>
-
 #include "diag/QRNErrors.h"
-#include "host/prog_ids.h"
 #include "row/QRNEdit.h"
+#include "row/row_extras.h"
 #include "runtime/errors.h"
 
 namespace qrn {
@@ -12,41 +10,9 @@ constexpr double kEditorWidth = 100;
 
 }  // namespace
 
-QRNEdit::EditorKind QRNEdit::editorKind(qrnValueType type) {
-  switch (type) {
-    case qrnTypeString:
-    case qrnTypeInteger:
-    case qrnTypeLong:
-    case qrnTypeDouble:
-    case qrnTypeDecimal:
-    case qrnTypeDate:
-    case qrnTypeCurrency:
-    case qrnTypeHexadecimal: return EditorKind::TextBox;
-    case qrnTypeBoolean: return EditorKind::Check;
-    case qrnTypeList: return EditorKind::DropList;
-    case qrnTypeBitfield: return EditorKind::BitList;
-    case qrnTypeArray: return EditorKind::Array;
-    default: return EditorKind::None;
-  }
-}
-
 host::Editor* QRNEdit::CurrentEditor() const {
-  switch (editorKind_) {
-    case EditorKind::TextBox: return txtValue();
-    case EditorKind::Check: return chkValue() ? &chkValue()->Check() : nullptr;
-    case EditorKind::DropList: return cboValue() ? &cboValue()->Combo() : nullptr;
-    case EditorKind::BitList: return lstValue() ? &lstValue()->List() : nullptr;
-    default: return nullptr;
-  }
-}
-
-host::ListEditor* QRNEdit::listEditor() const {
-  if (cboValue()) return &cboValue()->Combo();
-  return lstValue() ? &lstValue()->List() : nullptr;
-}
-
-CompositeEditor* QRNEdit::compositeEditor() const {
-  return txtValue() ? nullptr : static_cast<CompositeEditor*>(editor_.get());
+  const_cast<QRNEdit*>(this)->makeEditor();
+  return editor_.inner();
 }
 
 void QRNEdit::SetValueType(qrnValueType type) {
@@ -61,124 +27,113 @@ void QRNEdit::SetValueType(qrnValueType type) {
 // The focus waits on the row while one editor takes the place of another, and the edit goes on. A row that
 // will have no editor gives it up while the edit can still be ended.
 bool QRNEdit::takeFocusFromEditor(qrnValueType nextType) {
-  const host::Editor* editor = CurrentEditor();
-  const EditorKind next = editorKind(nextType);
-  if (!editor || next == editorKind_ || !editor->hasFocus()) return false;
-  const bool goesOn = next != EditorKind::None && next != EditorKind::Array;
+  const host::Editor* editor = editor_.inner();
+  const ValueEditor::Kind next = ValueEditor::kindFor(nextType);
+  if (!editor || next == editor_.kind() || !editor->hasFocus()) return false;
+  const bool goesOn = next != ValueEditor::Kind::None && next != ValueEditor::Kind::Array;
   input().setFocus(goesOn ? this : nullptr);
   return goesOn;
 }
 
 void QRNEdit::switchEditor(qrnValueType type) {
-  const EditorKind kind = editorKind(type);
-  if (kind == editorKind_) {
+  const ValueEditor::Kind kind = ValueEditor::kindFor(type);
+  if (kind == editor_.kind()) {
     valueType_ = type;
     return;
   }
-  struct Saved {
-    host::Color foreColor;
-    std::string toolTip;
-  };
-  std::optional<Saved> saved;
-  if (const host::Editor* old = CurrentEditor()) {
-    saved = Saved{old->ForeColor(), old->ToolTipText()};
-  }
+  const bool hadEditor = editor_.exists();
+  const host::Color color = ValueForeColor();
+  const std::string toolTip = ValueToolTip();
   removeEditor();
   valueType_ = type;
-  ignoringErrors([&] { createEditor(kind); });
-  host::Editor* editor = CurrentEditor();
-  if (!editor) return;
-  applySettings();
-  if (!saved) {
+  editor_.begin(kind);
+  if (!editor_.exists()) return;
+  editorShown_ = true;  // as a control is born
+  if (hadEditor) {
+    editor_.setForeColor(color);
+    applyValueToolTip(toolTip);
+  } else {
     valueWidth_ = kEditorWidth / pixelsPerUnit().x;
-    return;
   }
-  editor->SetForeColor(saved->foreColor);
-  editor->SetToolTipText(saved->toolTip);
-  if (chkValue()) chkValue()->SetToolTipText(saved->toolTip);
+  // The height of a bit list depends on its entries, which only the control has.
+  if (parts_ || kind == ValueEditor::Kind::BitList) makeEditor();
 }
 
 void QRNEdit::removeEditor() {
   // While the window still exists.
-  editorHook_.reset();
-  editorKind_ = EditorKind::None;
-  const host::Owned<host::Control> gone = std::move(editor_);
+  if (extras_) extras_->editorHook.reset();
+  const host::Owned<host::Control> gone = editor_.end();
+  if (toolTips_) toolTips_->value.clear();
   forgetMeasure(&Measures::value);
+}
+
+// Looks as it would if it had been there all the time, and needs as much room as before.
+void QRNEdit::makeEditor() {
+  if (!editor_.exists() || editor_.frame()) return;
+  makingEditor_ = true;
+  if (ignoringErrors([&] { editor_.make(*this); }))
+    applySettings();
+  else
+    editor_.end();
+  makingEditor_ = false;
 }
 
 void QRNEdit::childWindowMade(host::Control& child) {
-  if (&child != CurrentEditor()) return;
-  editorHook_ = std::make_unique<clsQRNEDitSubClass>();
-  editorHook_->SetHwnd(child.window());
-}
-
-// One of the row's own parts, so it is in no collection.
-void QRNEdit::addEditor(std::string_view progId, std::string_view name) {
-  host::Owned<host::Control> added = host::createByProgId(progId);
-  host::LifeCycle::startChild(*added, *this, partName(name), *this);
-  editor_ = std::move(added);
-  editorShown_ = true;  // as a control is born
-  forgetMeasure(&Measures::value);
-}
-
-void QRNEdit::createEditor(EditorKind kind) {
-  switch (kind) {
-    case EditorKind::TextBox: addEditor("VB.TextBox", "txtValue"); break;
-    case EditorKind::Check: addEditor("QRNV16Controls2.QRNCheck", "chkValue"); break;
-    case EditorKind::DropList: addEditor("QRNV16Controls2.QRNDropList", "cboValue"); break;
-    case EditorKind::BitList: addEditor("QRNV16Controls2.QRNBitList", "lstValue"); break;
-    default: break;
-  }
-  editorKind_ = kind;
+  if (&child != editor_.inner()) return;
+  auto& hook = extras().editorHook;
+  hook = std::make_unique<clsQRNEDitSubClass>();
+  hook->SetHwnd(child.window());
 }
 
 void QRNEdit::applySettings() {
-  if (auto* composite = compositeEditor()) composite->SetScaleMode(ScaleMode());
+  if (auto* composite = editor_.composite()) composite->SetScaleMode(ScaleMode());
   applyAlignment();
   applyLocked();
   applyUpperCase();
   applyMaxLength();
   applyPassword();
   applyEnabled();
-  applyFont();
-  if (chkValue()) chkValue()->Check().SetBackColor(BackColor());
-  editorFrame()->SetVisible(valueVisible_);
+  passFont();
+  if (editor_.check()) editor_.check()->Check().SetBackColor(BackColor());
+  editor_.frame()->SetVisible(valueVisible_);
+  if (!editorShown_) editor_.inner()->SetVisible(false);
+  if (toolTips_) applyValueToolTip(std::exchange(toolTips_->value, {}));
 }
 
 void QRNEdit::applyAlignment() {
-  if (host::Editor* editor = CurrentEditor()) editor->SetAlignment(valueAlignment_);
+  if (host::Editor* editor = editor_.inner()) editor->SetAlignment(valueAlignment_);
 }
 
 void QRNEdit::applyLocked() {
   const host::Color background = locked_ ? host::kButtonFace : host::kWindowBackground;
-  if (txtValue()) {
-    txtValue()->SetLocked(locked_);
-    txtValue()->SetBackColor(background);
-  } else if (cboValue()) {
-    cboValue()->Combo().SetLocked(locked_);
-    cboValue()->Combo().SetBackColor(background);
-  } else if (lstValue()) {
-    lstValue()->List().SetBackColor(background);
+  if (auto* box = editor_.textBox()) {
+    box->SetLocked(locked_);
+    box->SetBackColor(background);
+  } else if (auto* drop = editor_.dropList()) {
+    drop->Combo().SetLocked(locked_);
+    drop->Combo().SetBackColor(background);
+  } else if (auto* bits = editor_.bitList()) {
+    bits->List().SetBackColor(background);
   } else {
     applyEnabled();
   }
 }
 
 void QRNEdit::applyEnabled() {
-  if (host::Editor* editor = CurrentEditor()) editor->SetEnabled(Enabled() && !(chkValue() && locked_));
+  if (host::Editor* editor = editor_.inner()) editor->SetEnabled(Enabled() && !(editor_.check() && locked_));
 }
 
 void QRNEdit::applyUpperCase() {
-  if (txtValue()) txtValue()->setUpperCase(valueUpperCase_);
-  if (cboValue()) cboValue()->Combo().setUpperCase(valueUpperCase_);
+  if (editor_.textBox()) editor_.textBox()->setUpperCase(valueUpperCase_);
+  if (editor_.dropList()) editor_.dropList()->Combo().setUpperCase(valueUpperCase_);
 }
 
 void QRNEdit::applyMaxLength() {
-  if (txtValue()) txtValue()->SetMaxLength(valueMaxLength_);
+  if (editor_.textBox()) editor_.textBox()->SetMaxLength(valueMaxLength_);
 }
 
 void QRNEdit::applyPassword() {
-  if (txtValue()) txtValue()->SetPasswordChar(password_ ? "*" : "");
+  if (editor_.textBox()) editor_.textBox()->SetPasswordChar(password_ ? "*" : "");
 }
 
 // Drops the measured widths as well, so it also serves a change of scale.
@@ -190,55 +145,71 @@ void QRNEdit::applyFont() {
     parts_->lblLabel.fontChanged();
     parts_->lblUnit.fontChanged();
   }
-  if (txtValue())
-    txtValue()->SetFont(font());
-  else if (auto* composite = compositeEditor())
+  passFont();
+}
+
+void QRNEdit::passFont() {
+  if (editor_.textBox())
+    editor_.textBox()->SetFont(font());
+  else if (auto* composite = editor_.composite())
     composite->SetFont(font());
+}
+
+// A disabled check box shows no tool tip; what lies under it does.
+void QRNEdit::applyValueToolTip(const std::string& text) {
+  if (host::Editor* editor = editor_.inner()) {
+    editor->SetToolTipText(text);
+    if (editor_.check()) editor_.check()->SetToolTipText(text);
+  } else if (toolTips_ || !text.empty()) {
+    toolTips().value = text;
+  }
 }
 
 // ---- the entries of the lists ----
 
 std::int16_t QRNEdit::ValueCount() const {
   if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
-  const host::ListEditor* list = listEditor();
+  const host::ListEntries* list = editor_.list();
   return list ? list->ListCount() : std::int16_t{0};
 }
 
 void QRNEdit::SetValueCount(std::int16_t count) {
   // The same number as when it is read, on purpose.
   if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
-  host::ListEditor* list = listEditor();
+  host::ListEntries* list = editor_.list();
   if (!list) return;
   if (count <= 0) list->Clear();
   while (list->ListCount() < count) list->AddItem("");
   while (count > 0 && list->ListCount() > count) list->RemoveItem(list->ListCount() - 1);
+  forgetMeasure(&Measures::value);
 }
 
 std::string QRNEdit::ValueNames(std::int32_t i) const {
   if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
-  const host::ListEditor* list = listEditor();
+  const host::ListEntries* list = editor_.list();
   return list ? list->List(i) : std::string();
 }
 
 void QRNEdit::SetValueNames(std::int32_t i, const std::string& name) {
   if (!userMode()) RaiseError(kSetNotAtDesignTime, *this);
-  host::ListEditor* list = listEditor();
+  host::ListEntries* list = editor_.list();
   if (!list) return;
   if (i >= 0 && i < list->ListCount())
     list->SetList(i, name);
   else
     list->AddItem(name);
+  forgetMeasure(&Measures::value);
 }
 
 std::int32_t QRNEdit::ValueItems(std::int32_t i) const {
   if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
-  const host::ListEditor* list = listEditor();
+  const host::ListEntries* list = editor_.list();
   return list ? list->ItemData(i) : 0;
 }
 
 void QRNEdit::SetValueItems(std::int32_t i, std::int32_t item) {
   if (!userMode()) RaiseError(kSetNotAtDesignTime, *this);
-  if (host::ListEditor* list = listEditor()) list->SetItemData(i, item);
+  if (host::ListEntries* list = editor_.list()) list->SetItemData(i, item);
 }
 
 }  // namespace qrn

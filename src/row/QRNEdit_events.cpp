@@ -1,7 +1,6 @@
 #include "diag/DebugTrace.h"
 #include "row/QRNEdit.h"
-#include "row/focus_watch.h"
-#include "row/icon_tracking.h"
+#include "row/row_extras.h"
 #include "runtime/errors.h"
 #include "values/bit_string.h"
 
@@ -25,20 +24,30 @@ class HandlingChange {
 
 }  // namespace
 
+RowExtras& QRNEdit::extras() {
+  if (!extras_) extras_ = std::make_unique<RowExtras>();
+  return *extras_;
+}
+
+RowEvents& QRNEdit::events() {
+  if (!events_) events_ = std::make_unique<RowEvents>();
+  return *events_;
+}
+
 // ---- the edit bracket ----
 
 bool QRNEdit::beginEdit() {
   if (locked_ || editing_) return false;
   editing_ = true;
-  raise(StartEdit, "StartEdit");
+  raise(&RowEvents::StartEdit, "StartEdit");
   return true;
 }
 
 bool QRNEdit::endEdit() {
-  if (!CurrentEditor() || !editing_ || locked_) return false;
+  if (!editor_.exists() || !editing_ || locked_) return false;
   editing_ = false;
   bool changed = ValueChanged();
-  raise(EndEdit, "EndEdit", changed);
+  raise(&RowEvents::EndEdit, "EndEdit", changed);
   return true;
 }
 
@@ -52,53 +61,55 @@ void QRNEdit::gotFocus() {
 // Whoever leaves the application leaves the edit; it begins again when he comes back and finds the focus
 // here.
 void QRNEdit::watchApplication() {
-  focusWatch_ = std::make_unique<FocusWatch>();
-  focusWatch_->left = focusWatch_->application.AppLostFocus.connect([this] {
+  auto watch = std::make_unique<FocusWatch>();
+  watch->left = watch->application.AppLostFocus.connect([this] {
     const WeakRef<QRNEdit> self(this);
     endEdit();
     if (self) raiseByName("AppLostFocus", {});
   });
-  focusWatch_->back = focusWatch_->application.AppGotFocus.connect([this] {
+  watch->back = watch->application.AppGotFocus.connect([this] {
     if (beginEdit()) DebugTrace("AppGotFocus", kTraceLevel);
   });
-  focusWatch_->application.SetHwnd(root().window());
+  watch->application.SetHwnd(root().window());
+  extras().focusWatch = std::move(watch);
 }
 
 void QRNEdit::lostFocus() {
   const WeakRef<QRNEdit> self(this);
-  focusWatch_.reset();
+  if (extras_) extras_->focusWatch.reset();
   endEdit();
   if (self) UserControl::lostFocus();
 }
 
 host::Control* QRNEdit::focusTarget() {
-  host::Editor* editor = CurrentEditor();
-  return editor && valueVisible_ && editor->acceptsFocus() ? editor : nullptr;
+  host::Editor* editor = valueVisible_ ? CurrentEditor() : nullptr;
+  return editor && editor->acceptsFocus() ? editor : nullptr;
 }
 
 // ---- what the editor reports ----
 
 void QRNEdit::childChanged(host::Control& child) {
   if (changeDepth_ > 0) return;
-  if (&child == txtValue() && valueType_ == qrnTypeDouble) {
+  if (&child == editor_.textBox() && valueType_ == qrnTypeDouble) {
     const HandlingChange handling(changeDepth_);
     correctDecimalSeparator();
   }
-  raise(Change, "Change");
+  raise(&RowEvents::Change, "Change");
 }
 
-void QRNEdit::childClicked(host::Control&) { raise(Click, "Click"); }
+void QRNEdit::childClicked(host::Control&) { raise(&RowEvents::Click, "Click"); }
 
 void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
-  if (changeDepth_ > 0 || !lstValue() || &child != &lstValue()->List()) return;
+  QRNBitList* const list = editor_.bitList();
+  if (changeDepth_ > 0 || !list || &child != &list->List()) return;
   if (!locked_) {
-    raise(ItemCheck, "ItemCheck", item);
+    raise(&RowEvents::ItemCheck, "ItemCheck", item);
     return;
   }
   const HandlingChange handling(changeDepth_);
   const auto* bits = displayBaseline_.get<std::string>();
   const bool accepted = bits && BitStringGet(*bits, item);
-  ignoringErrors([&] { lstValue()->List().SetSelected(item, accepted); });
+  ignoringErrors([&] { list->List().SetSelected(item, accepted); });
 }
 
 void QRNEdit::childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
@@ -107,13 +118,15 @@ void QRNEdit::childKeyDown(host::Control&, std::int16_t& keyCode, std::int16_t& 
     showContextMenu(true);
     return;
   }
-  raise(KeyDown, "KeyDown", keyCode, shift);
+  raise(&RowEvents::KeyDown, "KeyDown", keyCode, shift);
 }
 
-void QRNEdit::childKeyPress(host::Control&, std::int16_t& keyAscii) { raise(KeyPress, "KeyPress", keyAscii); }
+void QRNEdit::childKeyPress(host::Control&, std::int16_t& keyAscii) {
+  raise(&RowEvents::KeyPress, "KeyPress", keyAscii);
+}
 
 void QRNEdit::childKeyUp(host::Control&, std::int16_t& keyCode, std::int16_t& shift) {
-  raise(KeyUp, "KeyUp", keyCode, shift);
+  raise(&RowEvents::KeyUp, "KeyUp", keyCode, shift);
 }
 
 // ---- clicks ----
@@ -133,20 +146,20 @@ void QRNEdit::mouseUp(host::MouseButton button, std::int16_t, Point at) {
   if (button == host::MouseButton::Right && inside) return showContextMenu(false);
   if (button != host::MouseButton::Left || !leftPressed_) return;
   leftPressed_ = false;
-  if (inside && Enabled()) raise(BackgroundClick, "BackgroundClick");
+  if (inside && Enabled()) raise(&RowEvents::BackgroundClick, "BackgroundClick");
 }
 
 void QRNEdit::childMouseDown(host::Control& child, host::MouseButton button, std::int16_t, Point) {
   if (button != host::MouseButton::Left || !Enabled()) return;
   leftPressed_ = true;
   // The caption of a Boolean parameter works its check box.
-  if (parts_ && &child == &parts_->lblLabel && chkValue() && chkValue()->shown() && !locked_) {
+  if (parts_ && &child == &parts_->lblLabel && editor_.check() && editor_.check()->shown() && !locked_) {
     const WeakRef<QRNEdit> self(this);
+    const auto box = [&] { return self && editor_.check() ? &editor_.check()->Check() : nullptr; };
     SetFocus();
-    if (self && chkValue()) chkValue()->Check().userToggled();
+    if (box()) box()->userToggled();
     // The box's own widget has not seen this click.
-    if (self && chkValue() && chkValue()->Check().peer())
-      chkValue()->Check().peer()->changed(host::Aspect::Content);
+    if (box() && box()->peer()) box()->peer()->changed(host::Aspect::Content);
     return;
   }
   if (const RowIcon* icon = iconOf(child); icon && icon->mode != qrnbuttonNone) invalidate();
@@ -171,48 +184,70 @@ void QRNEdit::childMouseUp(host::Control& child, host::MouseButton button, std::
 void QRNEdit::clickOn(host::Control& child) {
   const RowIcon* icon = iconOf(child);
   if (parts_ && &child == &parts_->lblLabel)
-    raise(LabelClick, "LabelClick");
+    raise(&RowEvents::LabelClick, "LabelClick");
   else if (parts_ && &child == &parts_->lblUnit)
-    raise(UnitClick, "UnitClick");
+    raise(&RowEvents::UnitClick, "UnitClick");
   else if (icon && icon->mode == qrnbuttonNone)
     return;
   else if (icon == &icon1_)
-    raise(Icon1Click, "Icon1Click");
+    raise(&RowEvents::Icon1Click, "Icon1Click");
   else if (icon == &icon2_)
-    raise(Icon2Click, "Icon2Click");
-  else if (lstValue() && &child == &lstValue()->List())
-    raise(Click, "Click");
+    raise(&RowEvents::Icon2Click, "Icon2Click");
+  else if (editor_.bitList() && &child == &editor_.bitList()->List())
+    raise(&RowEvents::Click, "Click");
 }
 
 void QRNEdit::showContextMenu(bool atKeyboard) {
   if (!Enabled()) return;
-  if (auto chosen = menu_.show(*this, atKeyboard)) raise(MenuClick, "MenuClick", *chosen);
+  if (!extras_) return;
+  if (auto chosen = extras_->menu.show(*this, atKeyboard)) raise(&RowEvents::MenuClick, "MenuClick", *chosen);
 }
 
 // ---- icons ----
 
-bool QRNEdit::isTracked(const RowIcon& icon) const { return tracking_ && tracking_->image == &imageOf(icon); }
+bool QRNEdit::isTracked(const RowIcon& icon) const {
+  return extras_ && extras_->tracking && extras_->tracking->image == &imageOf(icon);
+}
 
 void QRNEdit::trackIcon(const RowIcon& icon) {
   if (isTracked(icon)) return;
   stopTracking();
-  tracking_ = std::make_unique<IconTracking>();
-  tracking_->image = &imageOf(icon);
-  tracking_->timer = static_cast<host::Timer*>(&controls().add("VB.Timer", "tmrHit", *this));
-  tracking_->tick = tracking_->timer->Tick.connect([this] {
+  auto tracking = std::make_unique<IconTracking>();
+  tracking->image = &imageOf(icon);
+  tracking->timer = static_cast<host::Timer*>(&controls().add("VB.Timer", "tmrHit", *this));
+  tracking->tick = tracking->timer->Tick.connect([this, image = tracking->image] {
     const Point cursor = platform().cursor() - platform().screenPosition(root());
-    if (!tracking_->image->shown() || !tracking_->image->visibleOnSurface().contains(cursor)) stopTracking();
+    if (!image->shown() || !image->visibleOnSurface().contains(cursor)) stopTracking();
   });
-  tracking_->timer->SetInterval(kHoverInterval);
+  tracking->timer->SetInterval(kHoverInterval);
+  extras().tracking = std::move(tracking);
   invalidate();
 }
 
 void QRNEdit::stopTracking() {
-  if (!tracking_) return;
-  tracking_->timer->SetEnabled(false);
-  tracking_.reset();
+  if (!extras_ || !extras_->tracking) return;
+  extras_->tracking->timer->SetEnabled(false);
+  extras_->tracking.reset();
   controls().remove("tmrHit");
   invalidate();
+}
+
+// ---- the context menu ----
+
+std::shared_ptr<host::MenuEntry> QRNEdit::AddMenuItem(std::string_view MenuCaption) {
+  return extras().menu.add(MenuCaption);
+}
+
+std::shared_ptr<host::MenuEntry> QRNEdit::GetMenuItem(std::int32_t Index) {
+  return extras().menu.entry(Index);
+}
+
+void QRNEdit::RemoveMenuItem(std::int32_t Index) {
+  if (extras_) extras_->menu.remove(Index);
+}
+
+void QRNEdit::RemoveMenu() {
+  if (extras_) extras_->menu.removeAll();
 }
 
 void QRNEdit::paint(host::Surface& surface, Size size) {

@@ -30,8 +30,7 @@ std::int32_t QRNEdit::rowHeight() const { return toLong(7 / pixelsPerUnit().y + 
 
 std::int32_t QRNEdit::GetMinHeight() const {
   std::int32_t height = textHeight() + 8;
-  if (editorKind_ == EditorKind::BitList)
-    height = std::max(height, listEditor()->ListCount() * (textHeight() + 2) + 5);
+  if (editor_.bitList()) height = std::max(height, editor_.list()->ListCount() * (textHeight() + 2) + 5);
   return height;
 }
 
@@ -50,7 +49,7 @@ void QRNEdit::forgetMeasure(std::int32_t Measures::*part) {
 
 // The row measures its texts itself, whether there are labels or not.
 void QRNEdit::childMeasureChanged(host::Control& part) {
-  if (&part == editor_.get()) forgetMeasure(&Measures::value);
+  if (&part == editor_.frame() && !makingEditor_) forgetMeasure(&Measures::value);
 }
 
 std::int32_t QRNEdit::GetMinLabelWidth() const {
@@ -69,13 +68,21 @@ std::int32_t QRNEdit::GetMinValueWidth() const {
 }
 
 std::int32_t QRNEdit::measuredValueWidth() const {
-  switch (editorKind_) {
-    case EditorKind::TextBox: return roundedUp(txtValue()->textWidth() + textHeight());
-    case EditorKind::Check: return 2 * textHeight();
-    case EditorKind::DropList:
-    case EditorKind::BitList: return 2 * textHeight() + roundedUp(listEditor()->widestText());
+  using enum ValueEditor::Kind;
+  switch (editor_.kind()) {
+    case TextBox: return roundedUp(TextWidth(editor_.text()) + textHeight());
+    case Check: return 2 * textHeight();
+    case DropList:
+    case BitList: return 2 * textHeight() + roundedUp(widestEntry());
     default: return 0;
   }
+}
+
+double QRNEdit::widestEntry() const {
+  const host::ListEntries& list = *editor_.list();
+  double widest = 0;
+  for (std::int32_t i = 0; i < list.ListCount(); ++i) widest = std::max(widest, TextWidth(list.List(i)));
+  return widest;
 }
 
 std::int32_t QRNEdit::GetMinWidth() const {
@@ -104,11 +111,11 @@ bool QRNEdit::showEditor() {
   if (editorShown_ == valueVisible_) return true;
   editorShown_ = valueVisible_;
   const WeakRef<QRNEdit> self(this);
-  if (!valueVisible_ && editorFrame() && editorFrame()->hasFocus()) input().setFocus(nullptr);
+  if (!valueVisible_ && editor_.frame() && editor_.frame()->hasFocus()) input().setFocus(nullptr);
   if (!self) return false;
-  if (host::Control* frame = editorFrame()) {
-    frame->SetVisible(valueVisible_);
-    CurrentEditor()->SetVisible(valueVisible_);
+  if (editor_.frame()) {
+    editor_.frame()->SetVisible(valueVisible_);
+    editor_.inner()->SetVisible(valueVisible_);
   }
   return true;
 }
@@ -139,7 +146,8 @@ void QRNEdit::makeParts() {
   contain(parts_->imgIcon1, *this, "imgIcon1");
   contain(parts_->imgIcon2, *this, "imgIcon2");
   contain(parts_->lblUnit, *this, "lblUnit");
-  if (editor_) bringToFront(*editor_);
+  makeEditor();
+  if (editor_.frame()) bringToFront(*editor_.frame());
   for (host::Label* label : {&parts_->lblLabel, &parts_->lblUnit}) {
     label->SetEnabled(Enabled());
     label->SetHeight(textHeight());
@@ -158,7 +166,7 @@ void QRNEdit::applyToolTips() {
 void QRNEdit::applyWidths() {
   parts_->lblLabel.SetWidth(labelWidth_);
   parts_->lblUnit.SetWidth(unitWidth_);
-  if (editor_) editor_->SetWidth(valueWidth_);
+  if (editor_.frame()) editor_.frame()->SetWidth(valueWidth_);
 }
 
 void QRNEdit::arrangeInside() {
@@ -207,14 +215,14 @@ double QRNEdit::placeParts(double x, bool move) {
 
 // A value without an editor takes no width, but its spacing.
 double QRNEdit::placeEditor(double x, bool move) {
-  host::Control* const frame = editorFrame();
+  host::Control* const frame = editor_.frame();
   if (!frame) return x;
   double height = toLong(ScaleHeight());
-  if (chkValue())
+  if (editor_.check())
     height = rowHeight();
-  else if (cboValue())
-    height = cboValue()->Combo().Height();
-  else if (lstValue())
+  else if (editor_.dropList())
+    height = editor_.dropList()->Combo().Height();
+  else if (editor_.bitList())
     height = std::min<double>(GetMinHeight(), height);
   if (move) frame->Move(roundHalfEven(x), 0, frame->Width(), height);
   return x + frame->Width();

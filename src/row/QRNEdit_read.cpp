@@ -65,12 +65,12 @@ std::string QRNEdit::ValueText() const {
 
 std::string QRNEdit::readText() const {
   switch (valueType_) {
-    case qrnTypeBoolean: return CStr(Variant(chkValue()->Check().Value() != 0));
-    case qrnTypeList: return cboValue()->Combo().Text();
+    case qrnTypeBoolean: return CStr(Variant(editor_.ticked() != 0));
+    case qrnTypeList: return editor_.list()->Text();
     case qrnTypeBitfield: return bitsOfEditor();
     case qrnTypeArray: return CStr(CurrentArrayValue());
-    case qrnTypeHexadecimal: return CStr(Variant(HexToLong(txtValue()->Text())));
-    default: return txtValue() ? txtValue()->Text() : std::string();
+    case qrnTypeHexadecimal: return CStr(Variant(HexToLong(editor_.text())));
+    default: return editor_.text();
   }
 }
 
@@ -97,7 +97,7 @@ QRNEdit::ReadResult QRNEdit::readValue() const {
 }
 
 QRNEdit::ReadResult QRNEdit::readTyped() const {
-  const std::string_view typed = txtValue() ? std::string_view(txtValue()->Text()) : std::string_view();
+  const std::string_view typed = editor_.text();
   switch (valueType_) {
     case qrnTypeString: {
       const RuleResult check = CheckTextRule(Variant(typed), {ValueRule(), ValueCharSet(), valueMaxLength_});
@@ -121,8 +121,8 @@ QRNEdit::ReadResult QRNEdit::readTyped() const {
       return result;
     }
     case qrnTypeCurrency: return {Variant(CCur(Variant(typed)))};
-    case qrnTypeBoolean: return {Variant(chkValue()->Check().Value() != 0)};
-    case qrnTypeList: return {Variant(cboValue()->Combo().ListIndex())};
+    case qrnTypeBoolean: return {Variant(editor_.ticked() != 0)};
+    case qrnTypeList: return {Variant(editor_.list()->ListIndex())};
     case qrnTypeBitfield: return {Variant(bitsOfEditor())};
     case qrnTypeArray: return {CurrentArrayValue()};
     default: return {};
@@ -134,11 +134,13 @@ QRNEdit::ReadResult QRNEdit::readTyped() const {
 // In the form of the baseline; none for a type whose content is not compared.
 std::optional<Variant> QRNEdit::editorContent() const {
   switch (valueType_) {
-    case qrnTypeList: return Variant(cboValue()->Combo().ListIndex());
-    case qrnTypeBoolean: return Variant(std::int32_t{chkValue()->Check().Value()});
+    case qrnTypeList: return Variant(editor_.list()->ListIndex());
+    case qrnTypeBoolean: return Variant(std::int32_t{editor_.ticked()});
     case qrnTypeBitfield: return Variant(bitsOfEditor());
-    case qrnTypeHexadecimal: return Variant(HexToLong(txtValue()->Text()));
-    default: return txtValue() ? std::optional(Variant(txtValue()->Text())) : std::nullopt;
+    case qrnTypeHexadecimal: return Variant(HexToLong(editor_.text()));
+    default:
+      return editor_.kind() == ValueEditor::Kind::TextBox ? std::optional(Variant(editor_.text()))
+                                                          : std::nullopt;
   }
 }
 
@@ -167,7 +169,7 @@ void QRNEdit::SetValueChanged(bool changed) {
     taken = content && differs(*content);
     if (taken) displayBaseline_ = *std::move(content);
   });
-  if (taken) raise(StatusChange, "StatusChange");
+  if (taken) raise(&RowEvents::StatusChange, "StatusChange");
 }
 
 }  // namespace qrn

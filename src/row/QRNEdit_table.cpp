@@ -45,13 +45,8 @@ void QRNEditTable::restoreText(host::UserControl& control, const Variant& value)
 
 // As the editor of a new row is.
 void QRNEditTable::emptyEditor(C& row) {
-  if (row.txtValue()) row.txtValue()->SetText("");
-  if (row.chkValue()) row.chkValue()->Check().SetValue(0);
-  if (host::ListEditor* list = row.listEditor()) list->SetListIndex(-1);
-  if (row.lstValue()) {
-    host::ListBox& list = row.lstValue()->List();
-    for (std::int16_t i = 0; i < list.ListCount(); ++i) list.SetSelected(i, false);
-  }
+  row.editor_.empty();
+  row.forgetMeasure(&C::Measures::value);
   row.storedValue_ = row.displayBaseline_ = Variant();
 }
 

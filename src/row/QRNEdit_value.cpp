@@ -11,7 +11,7 @@
 namespace qrn {
 namespace {
 
-std::int32_t findListIndex(const host::ListEditor& list, std::string_view name) {
+std::int32_t findListIndex(const host::ListEntries& list, std::string_view name) {
   for (std::int32_t i = 0; i < list.ListCount(); ++i) {
     if (list.List(i) == name) return i;
   }
@@ -76,32 +76,38 @@ std::string QRNEdit::numberText(const Variant& value) const {
   return shown;
 }
 
+void QRNEdit::enterText(std::string_view text) {
+  if (text == editor_.text()) return;
+  editor_.setText(text);
+  forgetMeasure(&Measures::value);
+}
+
 void QRNEdit::showText(std::string shown) {
-  txtValue()->SetText(shown);
+  enterText(shown);
   displayBaseline_ = std::move(shown);
 }
 
 void QRNEdit::showCheck(bool ticked) {
   const std::int16_t state = ticked ? 1 : 0;
-  chkValue()->Check().SetValue(state);
+  editor_.setTicked(state);
   displayBaseline_ = std::int32_t{state};
 }
 
 void QRNEdit::showHexadecimal(const Variant& value) {
   Variant baseline = ValueFormat().empty() ? value : Variant(formatted(value));
-  txtValue()->SetText(Hex(baseline));
+  enterText(Hex(baseline));
   displayBaseline_ = std::move(baseline);
 }
 
 void QRNEdit::showList(const Variant& value) {
-  host::ListEditor& list = *listEditor();
+  host::ListEntries& list = *editor_.list();
   const std::int32_t index = isNumeric(value) ? CLng(value) : findListIndex(list, CStr(value));
   list.SetListIndex(index);
   displayBaseline_ = index;
 }
 
 void QRNEdit::showBits(const Variant& value) {
-  host::ListBox& list = lstValue()->List();
+  host::ListBox& list = editor_.bitList()->List();
   std::string baseline = bitsOfEditor();
   const std::string bits = CStr(value);
   for (std::int32_t i = 0; i < list.ListCount(); ++i) {
@@ -115,18 +121,19 @@ void QRNEdit::showBits(const Variant& value) {
 }
 
 std::string QRNEdit::bitsOfEditor() const {
-  const host::ListBox& list = lstValue()->List();
+  const host::ListBox& list = editor_.bitList()->List();
   std::string bits;
   for (std::int32_t i = 0; i < list.ListCount(); ++i) BitStringSet(bits, i, list.Selected(i));
   return bits;
 }
 
 void QRNEdit::correctDecimalSeparator() {
-  const std::string corrected = withLocalSeparator(txtValue()->Text());
-  if (corrected == txtValue()->Text()) return;
-  const std::int32_t start = txtValue()->SelStart(), length = txtValue()->SelLength();
-  txtValue()->SetText(corrected);
-  txtValue()->select(start, length);
+  host::TextBox& box = *editor_.textBox();
+  const std::string corrected = withLocalSeparator(box.Text());
+  if (corrected == box.Text()) return;
+  const std::int32_t start = box.SelStart(), length = box.SelLength();
+  box.SetText(corrected);
+  box.select(start, length);
 }
 
 }  // namespace qrn

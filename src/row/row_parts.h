@@ -37,12 +37,13 @@ struct RowParts {
   host::Image imgIcon2;
 };
 
-/// The tool tips of those four.
+/// The tool tips of those four, and of an editor that is no control yet.
 struct RowToolTips {
   std::string label;
   std::string unit;
   std::string icon1;
   std::string icon2;
+  std::string value;
 };
 
 }  // namespace qrn

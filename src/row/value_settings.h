@@ -8,25 +8,19 @@
 
 namespace qrn {
 
-/// The rule, character set and format of a row. Most rows have few of them, so they cost one pointer.
+/// The rule, character set and format of a row. Most rows have few of them, and many have the same ones:
+/// those that were set one after the other share them.
 class ValueSettings {
  public:
-  const std::string& rule() const { return texts_ ? texts_->rule : none(); }
-  const std::string& charSet() const { return texts_ ? texts_->charSet : none(); }
-  const std::string& format() const { return texts_ ? texts_->format : none(); }
-  void setRule(const std::string& rule) { texts().rule = rule; }
-  void setCharSet(const std::string& charSet) { texts().charSet = charSet; }
-  void setFormat(const std::string& format) {
-    texts().format = format;
-    texts_->compiled.reset();
-  }
+  const std::string& rule() const { return texts().rule; }
+  const std::string& charSet() const { return texts().charSet; }
+  const std::string& format() const { return texts().format; }
+  void setRule(const std::string& rule) { change(&Texts::rule, rule); }
+  void setCharSet(const std::string& charSet) { change(&Texts::charSet, charSet); }
+  void setFormat(const std::string& format) { change(&Texts::format, format); }
 
   /// The format, read once; null for none.
-  const CompiledFormat* compiledFormat() const {
-    if (format().empty()) return nullptr;
-    if (!texts_->compiled) texts_->compiled.emplace(texts_->format);
-    return &*texts_->compiled;
-  }
+  const CompiledFormat* compiledFormat() const { return texts().compiled ? &*texts().compiled : nullptr; }
 
  private:
   struct Texts {
@@ -36,16 +30,10 @@ class ValueSettings {
     std::optional<CompiledFormat> compiled;
   };
 
-  static const std::string& none() {
-    static const std::string empty;
-    return empty;
-  }
-  Texts& texts() {
-    if (!texts_) texts_ = std::make_unique<Texts>();
-    return *texts_;
-  }
+  const Texts& texts() const;
+  void change(std::string Texts::*text, const std::string& value);
 
-  std::unique_ptr<Texts> texts_;
+  std::shared_ptr<const Texts> texts_;
 };
 
 }  // namespace qrn

@@ -203,6 +203,7 @@ TEST_F(RowTest, ARowThatStandsAloneTellsItsErrorItself) {
 
 TEST_F(AccessibleTest, TheSurfaceHearsOfNewValuesAndStatesOfPaintedEditors) {
   showOnScreen();
+  pressure().CurrentEditor();
   auto& told = static_cast<headless::HeadlessPeer*>(panel().peer())->toldTools;
   const auto heard = [&told](host::Aspect aspect) {
     return std::count(told.begin(), told.end(), std::pair<std::string, host::Aspect>("txtValue", aspect));

@@ -10,6 +10,7 @@
 #include "display/QRNDisplay.h"
 #include "library/library.h"
 #include "platform/headless/headless_platform.h"
+#include "platform/headless/recording_surface.h"
 #include "platform/headless/user.h"
 
 namespace {
@@ -210,6 +211,8 @@ TEST_F(PanelCosts, AValueWrittenOffScreenPaintsNothingAndTellsNoPeer) {
   addRows(100);
   panel->LayoutControls(false);
   panel->realise();
+  headless::RecordingSurface screen(platform, panel->pixelSize());
+  panel->paintTree(screen);
   row(1).SetFocus();
   const auto offScreen = item(100), onScreen = item(2);
   const Cost hidden = costOf([&] { offScreen->SetParamValue(Variant(42)); });

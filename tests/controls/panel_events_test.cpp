@@ -282,7 +282,7 @@ TEST_F(PanelEvents, AnItemScrolledAwayIsNotUnderTheMouse) {
 
 TEST_F(PanelEvents, StartingAnEditEndsTheOneInAnotherRowFirst) {
   fill(2);
-  row(1).StartEdit.raise();  // only the row itself hears this one
+  row(1).events().StartEdit.raise();  // only the row itself hears this one
   row(1).raiseByName("StartEdit", host::EventArgs());
   row(2).raiseByName("StartEdit", host::EventArgs());
   EXPECT_EQ(events(),

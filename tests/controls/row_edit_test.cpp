@@ -36,7 +36,7 @@ TEST_F(RowFocus, StartsNoEditOfALockedRowAndEndsNone) {
 }
 
 TEST_F(RowFocus, EndsNoEditOfARowThatIsLockedWhenItBegins) {
-  const auto locking = row(1).StartEdit.connect([&] { row(1).SetLocked(true); });
+  const auto locking = row(1).events().StartEdit.connect([&] { row(1).SetLocked(true); });
   user->focuses(row(1));
   leave();
   EXPECT_EQ(raised(), Events{"StartEdit"});
@@ -101,8 +101,8 @@ TEST_F(RowFocus, EndsTheEditOfAnEditorThatIsHidden) {
 TEST_F(RowFocus, PassesTheChangedFlagByReference) {
   row(1).SetValue(Variant("a"));
   bool seen = false;
-  const auto first = row(1).EndEdit.connect([](bool& changed) { changed = true; });
-  const auto second = row(1).EndEdit.connect([&](bool& changed) { seen = changed; });
+  const auto first = row(1).events().EndEdit.connect([](bool& changed) { changed = true; });
+  const auto second = row(1).events().EndEdit.connect([&](bool& changed) { seen = changed; });
   user->focuses(row(1));
   leave();
   EXPECT_TRUE(seen);

@@ -172,13 +172,13 @@ TEST_F(RowEvents, FollowTheKeysOfTheEditor) {
 }
 
 TEST_F(RowEvents, MayTakeAKeyFromTheEditor) {
-  const auto noLetters = row().KeyPress.connect([](std::int16_t& key) {
+  const auto noLetters = row().events().KeyPress.connect([](std::int16_t& key) {
     if (key >= 'a') key = 0;
   });
   user->focuses(row());
   user->types("a1b2");
   EXPECT_EQ(row().ValueText(), "12");
-  const auto noKeys = row().KeyDown.connect([](std::int16_t& key, std::int16_t&) { key = 0; });
+  const auto noKeys = row().events().KeyDown.connect([](std::int16_t& key, std::int16_t&) { key = 0; });
   user->types("3");
   EXPECT_EQ(row().ValueText(), "12");
 }
@@ -198,7 +198,7 @@ TEST_F(RowEvents, ComeWithTheLocalSeparatorInPlace) {
   setCurrentLocale(deDE());
   useType(qrnTypeDouble);
   std::string seen;
-  const auto change = row().Change.connect([&] { seen = row().ValueText(); });
+  const auto change = row().events().Change.connect([&] { seen = row().ValueText(); });
   user->focuses(row());
   user->types("3.5");
   EXPECT_EQ(row().ValueText(), "3,5");
@@ -242,7 +242,7 @@ TEST_F(RowEvents, CorrectToASeparatorOfSeveralBytes) {
 TEST_F(RowEvents, StillComeAfterAListenerHasThrown) {
   useType(qrnTypeDouble);
   bool throws = true;
-  const auto change = row().Change.connect([&] {
+  const auto change = row().events().Change.connect([&] {
     if (throws) raiseRunTimeError(kInvalidProcedureCall);
   });
   EXPECT_EQ(errorOf([&] { type("1,5"); }), 5);

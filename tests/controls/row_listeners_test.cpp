@@ -212,7 +212,7 @@ INSTANTIATE_TEST_SUITE_P(Row, AListenerThat,
                          ::testing::Combine(::testing::ValuesIn(kUpsets), ::testing::Bool()), nameOf);
 
 TEST_F(RowEvents, MayDestroyARowThatStandsAlone) {
-  const auto change = row().Change.connect([&] { row_.reset(); });
+  const auto change = row().events().Change.connect([&] { row_.reset(); });
   user->focuses(row());
   user->types("a");
   EXPECT_EQ(row_, nullptr);
@@ -220,7 +220,7 @@ TEST_F(RowEvents, MayDestroyARowThatStandsAlone) {
 
 TEST_F(RowEvents, MayDestroyARowWhoseIconIsBeingWatched) {
   row().SetIcon1ButtonMode(qrnButtonFlat);
-  const auto click = row().Icon1Click.connect([&] { row_.reset(); });
+  const auto click = row().events().Icon1Click.connect([&] { row_.reset(); });
   user->hovers(row().imgIcon1());
   user->clicks(row().imgIcon1());
   EXPECT_EQ(row_, nullptr);

@@ -162,7 +162,7 @@ TEST_F(RowWindows, ALockedRowBeginsNothingWhenTheApplicationComesBack) {
 TEST_F(RowWindows, ARowThatIsRemovedWhileTheApplicationIsLeftHearsNoMore) {
   useType(qrnTypeString);
   user->focuses(row());
-  const Connection ending = row().EndEdit.connect([this](bool&) { row_.reset(); });
+  const Connection ending = row().events().EndEdit.connect([this](bool&) { row_.reset(); });
   user->switchesAway();
   EXPECT_EQ(watchedWindows(), 0);
 }
@@ -172,7 +172,7 @@ TEST_F(RowWindows, AListenerThatFailsWhenTheApplicationIsLeftDoesNotWedgeTheWind
   user->focuses(row());
   raised();
   {
-    const Connection failing = row().EndEdit.connect([](bool&) { raiseRunTimeError(kOverflow); });
+    const Connection failing = row().events().EndEdit.connect([](bool&) { raiseRunTimeError(kOverflow); });
     EXPECT_NO_THROW(user->switchesAway());
   }
   raised();

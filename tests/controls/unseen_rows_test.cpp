@@ -3,6 +3,16 @@
 namespace qrn::test {
 namespace {
 
+template <class Action>
+std::string refusalOf(Action&& action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    return error.source() + ": " + std::to_string(error.number());
+  }
+  return "nothing";
+}
+
 /// A hundred rows, of which the panel shows the first thirteen.
 class UnseenRows : public PanelTest {
  protected:
@@ -14,11 +24,14 @@ class UnseenRows : public PanelTest {
     headless::RecordingSurface target(platform, {400, 300});
     panel().paintTree(target);
   }
-  /// The editor is always there; the labels and icons are not.
-  bool hasParts(std::int32_t position) { return row(position).inside().size() > 1; }
+  bool hasParts(std::int32_t position) { return !row(position).inside().empty(); }
+  template <class T>
+  T& editor(std::int32_t position) {
+    return dynamic_cast<T&>(*row(position).CurrentEditor());
+  }
 };
 
-TEST_F(UnseenRows, HaveNoLabelsAndIconsYet) {
+TEST_F(UnseenRows, HaveNoLabelsIconsAndEditorsYet) {
   EXPECT_FALSE(hasParts(1));
   paint();
   EXPECT_TRUE(hasParts(1));
@@ -73,6 +86,129 @@ TEST_F(UnseenRows, AreArrangedFirstWhenTheyStillWereToBeAndMayNotBeAnyMore) {
   row(1).SetRedraw(false);
   row(1).SetLabelWidth(row(1).LabelWidth() + 50);
   EXPECT_EQ(row(1).CurrentEditor()->Left(), left + 10);
+}
+
+// ---- what they have instead of an editor ----
+
+TEST_F(UnseenRows, HoldTheirValuesAndShowThemOnceTheyAreSeen) {
+  row(50).SetValue(Variant(42));
+  row(51).SetValueType(qrnTypeHexadecimal);
+  row(51).SetValue(Variant(255));
+  row(52).SetValueType(qrnTypeBoolean);
+  row(52).SetValue(Variant(true));
+  row(53).SetValueType(qrnTypeList);
+  for (int i = 0; i < 3; ++i) row(53).SetValueNames(i, "entry " + std::to_string(i));
+  row(53).SetValueItems(2, 7);
+  row(53).SetValue(Variant(2));
+  for (std::int32_t position = 50; position <= 53; ++position) {
+    EXPECT_FALSE(hasParts(position)) << position;
+    EXPECT_FALSE(row(position).ValueChanged()) << position;
+    EXPECT_EQ(row(position).ValueError(), qrnErrorNone) << position;
+  }
+  EXPECT_EQ(row(50).Value(), Variant(42));
+  EXPECT_EQ(row(51).ValueText(), "255");
+  EXPECT_EQ(row(52).Value(), Variant(true));
+  EXPECT_EQ(row(53).ValueText(), "entry 2");
+  EXPECT_EQ(editor<host::TextBox>(50).Text(), "42");
+  EXPECT_EQ(editor<host::TextBox>(51).Text(), "FF");
+  EXPECT_EQ(editor<host::CheckBox>(52).Value(), 1);
+  EXPECT_EQ(editor<host::ComboBox>(53).Text(), "entry 2");
+  EXPECT_EQ(editor<host::ComboBox>(53).ItemData(2), 7);
+  EXPECT_EQ(editor<host::ComboBox>(53).NewIndex(), 2);
+  for (std::int32_t position = 50; position <= 53; ++position)
+    EXPECT_FALSE(row(position).ValueChanged()) << position;
+}
+
+TEST_F(UnseenRows, GiveTheirSettingsToTheEditorThatIsMadeForThem) {
+  QRNEdit& unseen = row(50);
+  unseen.SetValueAlignment(2);
+  unseen.SetLocked(true);
+  unseen.SetValueUpperCase(true);
+  unseen.SetValueMaxLength(12);
+  unseen.SetPassword(true);
+  unseen.SetValueForeColor(host::rgb(1, 2, 3));
+  unseen.SetValueToolTip("in bar");
+  EXPECT_EQ(unseen.ValueForeColor(), host::rgb(1, 2, 3));
+  EXPECT_EQ(unseen.ValueToolTip(), "in bar");
+  EXPECT_FALSE(hasParts(50));
+  const auto& box = editor<host::TextBox>(50);
+  EXPECT_EQ(box.Alignment(), 2);
+  EXPECT_TRUE(box.Locked());
+  EXPECT_EQ(box.BackColor(), host::kButtonFace);
+  EXPECT_TRUE(box.upperCase());
+  EXPECT_EQ(box.MaxLength(), 12);
+  EXPECT_EQ(box.PasswordChar(), "*");
+  EXPECT_EQ(box.ForeColor(), host::rgb(1, 2, 3));
+  EXPECT_EQ(box.ToolTipText(), "in bar");
+  EXPECT_EQ(unseen.ValueToolTip(), "in bar");
+}
+
+TEST_F(UnseenRows, HaveAnEditorThatIsHiddenIfItWouldHaveBeen) {
+  row(50).SetValueVisible(false);
+  row(51).SetValueType(qrnTypeBoolean);
+  row(51).SetValueVisible(false);
+  row(51).SetEnabled(false);
+  EXPECT_FALSE(row(50).CurrentEditor()->Visible());
+  EXPECT_FALSE(row(51).CurrentEditor()->Visible());
+  EXPECT_FALSE(row(51).CurrentEditor()->Enabled());
+  row(50).SetValueVisible(true);
+  row(51).SetValueVisible(true);
+  EXPECT_TRUE(row(50).CurrentEditor()->shown());
+  EXPECT_TRUE(row(51).CurrentEditor()->shown());
+}
+
+TEST_F(UnseenRows, KeepColourAndToolTipWhenTheyNeedAnotherEditorAndLoseThemWithoutOne) {
+  for (const std::int32_t position : {50, 51}) {
+    row(position).SetValueForeColor(host::rgb(1, 2, 3));
+    row(position).SetValueToolTip("in bar");
+  }
+  row(50).SetValueType(qrnTypeBoolean);
+  EXPECT_EQ(row(50).ValueForeColor(), host::rgb(1, 2, 3));
+  EXPECT_EQ(row(50).ValueToolTip(), "in bar");
+  row(51).SetValueType(qrnTypeArray);
+  EXPECT_EQ(row(51).ValueToolTip(), "");
+  row(51).SetValueType(qrnTypeLong);
+  EXPECT_EQ(row(51).ValueForeColor(), host::kWindowText);
+  EXPECT_EQ(row(51).ValueToolTip(), "");
+}
+
+TEST_F(UnseenRows, RefuseForTheirListsWhatADropListRefuses) {
+  QRNEdit& unseen = row(50);
+  unseen.SetValueType(qrnTypeList);
+  unseen.SetValueCount(2);
+  const auto refusals = [&] {
+    return std::vector{refusalOf([&] { unseen.ValueNames(2); }),
+                       refusalOf([&] { unseen.SetValueItems(-1, 0); }),
+                       refusalOf([&] { unseen.SetValue(Variant(2)); })};
+  };
+  const auto before = refusals();
+  EXPECT_EQ(before, std::vector<std::string>(3, "ComboBox: 380"));
+  EXPECT_FALSE(hasParts(50));
+  unseen.CurrentEditor();
+  EXPECT_EQ(refusals(), before);
+}
+
+TEST_F(UnseenRows, AreNotMadeEditorsForBecauseTheFocusPassesAnotherRow) {
+  row(1).SetFocus();
+  EXPECT_TRUE(row(1).hasFocus());
+  EXPECT_EQ(panel().nextTabStop(row(1).CurrentEditor(), true), &row(2));
+  EXPECT_TRUE(hasParts(2));
+  EXPECT_FALSE(hasParts(3));
+}
+
+TEST_F(UnseenRows, NeedNoMoreRoomOnceTheyAreSeen) {
+  row(50).SetValueType(qrnTypeList);
+  row(50).SetValueNames(0, "an entry of a list that is wide");
+  row(51).SetValue(Variant(1234567890));
+  panel().LayoutControls(true);
+  const auto list = row(50).GetMinValueWidth(), number = row(51).GetMinValueWidth();
+  const int measured = platform.measuredTexts();
+  row(50).CurrentEditor();
+  row(51).CurrentEditor();
+  panel().LayoutControls(true);
+  EXPECT_EQ(row(50).GetMinValueWidth(), list);
+  EXPECT_EQ(row(51).GetMinValueWidth(), number);
+  EXPECT_EQ(platform.measuredTexts(), measured);
 }
 
 // ---- when the columns are fitted again ----

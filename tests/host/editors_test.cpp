@@ -234,25 +234,6 @@ TEST_F(Lists, HoldNoMoreEntriesThanAnIntegerCounts) {
   EXPECT_EQ(list.ListCount(), 32'767);
 }
 
-TEST_F(Lists, MeasureTheirWidestEntryOnceForEachListAndFont) {
-  EXPECT_EQ(list.widestText(), 0);
-  list.AddItem("ab");
-  list.AddItem("abcd");
-  EXPECT_EQ(list.widestText(), 24);
-  const int measured = platform.measuredTexts();
-  EXPECT_EQ(list.widestText(), 24);
-  list.SetListIndex(1);
-  list.SetList(0, "ab");
-  EXPECT_EQ(list.widestText(), 24);
-  EXPECT_EQ(platform.measuredTexts(), measured);
-  list.RemoveItem(1);
-  EXPECT_EQ(list.widestText(), 12);
-  const auto large = std::make_shared<host::Font>("Sans", 20);
-  static_cast<headless::FixedMetrics&>(platform.metrics(*large)).characterWidth = 11;
-  list.SetFont(large);
-  EXPECT_EQ(list.widestText(), 22);
-}
-
 class ScrollBars : public SurfaceTest {
  protected:
   host::VScrollBar& bar = surface().add<host::VScrollBar>("bar", {184, 0, 16, 150});

@@ -192,35 +192,5 @@ TEST_F(TextBoxes, WantEveryKeyForThemselves) {
   EXPECT_EQ(platform.windows().send(box.window(), {host::wm::GetDlgCode, 0, 0}), 0x89);
 }
 
-TEST_F(TextBoxes, MeasureTheirTextOnceForEachTextAndFont) {
-  box.SetText("abcd");
-  EXPECT_EQ(box.textWidth(), 24);
-  const int measured = platform.measuredTexts();
-  EXPECT_EQ(box.textWidth(), 24);
-  EXPECT_EQ(platform.measuredTexts(), measured);
-  user.types("e");
-  EXPECT_EQ(box.textWidth(), 30);
-  EXPECT_EQ(platform.measuredTexts(), measured + 1);
-}
-
-TEST_F(TextBoxes, MeasureTheirTextInTheirOwnFont) {
-  box.SetText("abcd");
-  const auto large = std::make_shared<host::Font>("Sans", 20);
-  static_cast<headless::FixedMetrics&>(platform.metrics(*large)).characterWidth = 11;
-  EXPECT_EQ(box.textWidth(), 24);
-  box.SetFont(large);
-  EXPECT_EQ(box.textWidth(), 44);
-  box.SetFont(nullptr);
-  EXPECT_EQ(box.textWidth(), 24);
-  surface().setFont(large);
-  EXPECT_EQ(box.textWidth(), 44) << "without a font of its own it has the holder's";
-}
-
-TEST_F(TextBoxes, MeasureInTheScaleUnitsOfWhatHoldsThem) {
-  surface().setScaleMode(1);  // twips, 15 to the pixel
-  box.SetText("abcd");
-  EXPECT_EQ(box.textWidth(), 360);
-}
-
 }  // namespace
 }  // namespace qrn::test

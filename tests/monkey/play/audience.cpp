@@ -93,13 +93,13 @@ void Audience::heardOfSite() {
 void Audience::leansOver(QRNDisplay& panel, QRNEdit& row, std::int32_t position) {
   Seat& seat = seatOf(panel);
   const auto then = [this, &seat, position](auto&&...) { meddle(seat.panel.get(), position); };
-  seat.connections.push_back(row.StartEdit.connect(then));
-  seat.connections.push_back(row.EndEdit.connect(then));
-  seat.connections.push_back(row.Change.connect(then));
-  seat.connections.push_back(row.StatusChange.connect(then));
-  seat.connections.push_back(row.KeyDown.connect(then));
-  seat.connections.push_back(row.Click.connect(then));
-  seat.connections.push_back(row.Icon2Click.connect(then));
+  seat.connections.push_back(row.events().StartEdit.connect(then));
+  seat.connections.push_back(row.events().EndEdit.connect(then));
+  seat.connections.push_back(row.events().Change.connect(then));
+  seat.connections.push_back(row.events().StatusChange.connect(then));
+  seat.connections.push_back(row.events().KeyDown.connect(then));
+  seat.connections.push_back(row.events().Click.connect(then));
+  seat.connections.push_back(row.events().Icon2Click.connect(then));
   seat.connections.push_back(row.ObjectEvent.connect(then));
 }
 
