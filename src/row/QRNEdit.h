@@ -265,6 +265,8 @@ class QRNEdit final : public host::UserControl {
   bool isIcon2(const host::Control& inside) const { return parts_ && &inside == &parts_->imgIcon2; }
   /// The control in which the value is edited, made when it is first asked for; null where the type has none.
   host::Editor* CurrentEditor() const;
+  /// Whether there is one, or would be if it was asked for.
+  bool hasEditor() const { return editor_.exists(); }
 
   void paint(host::Surface& surface, Size size) override;
   host::Control* focusTarget() override;

@@ -198,8 +198,7 @@ void QRNEdit::clickOn(host::Control& child) {
 }
 
 void QRNEdit::showContextMenu(bool atKeyboard) {
-  if (!Enabled()) return;
-  if (!extras_) return;
+  if (!Enabled() || !extras_) return;
   if (auto chosen = extras_->menu.show(*this, atKeyboard)) raise(&RowEvents::MenuClick, "MenuClick", *chosen);
 }
 

@@ -71,7 +71,7 @@ class Column {
     }
     if (!row.UnitVisible()) wished[1] += wished[2];
     // A value without an editor takes no width.
-    if (!row.CurrentEditor()) wished[1] = 0;
+    if (!row.hasEditor()) wished[1] = 0;
     const ColumnWidths has{row.LabelWidth(), row.ValueWidth(), row.UnitWidth()};
     if (has != wished)
       stage_.complain("columns are as wide as the layout makes them",

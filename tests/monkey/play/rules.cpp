@@ -93,7 +93,8 @@ void checkFocusEvents(Stage& stage) {
 }
 
 void collectEditors(const host::ContainerControl& container, std::vector<const host::Control*>& realised) {
-  for (const host::Control* control : container.contained()) {
+  // Without looking at rows that nobody has looked at.
+  for (const host::Control* control : container.inside()) {
     if (control->peer() && control->peerPolicy() == host::PeerPolicy::WhenFocused)
       realised.push_back(control);
     if (const auto* inner = dynamic_cast<const host::ContainerControl*>(control))

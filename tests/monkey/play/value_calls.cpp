@@ -32,7 +32,7 @@ void setValueType(Stage& stage, Numbers& numbers) {
 // only the whole part of a number that it was given.
 void checkUnchanged(Stage& stage, const clsQRNParam& parameter, bool written) {
   const QRNEdit& row = parameter.Control();
-  if (!row.CurrentEditor() || (written && row.ValueType() == qrnTypeHexadecimal)) return;
+  if (!row.hasEditor() || (written && row.ValueType() == qrnTypeHexadecimal)) return;
   if (row.ValueChanged())
     stage.complain("a value that was written or accepted is not changed", quoted(row.ValueText()));
 }
@@ -56,6 +56,32 @@ void readValue(Stage& stage, Numbers& numbers) {
     static_cast<void>(parameter->Control().ValueError());
     static_cast<void>(parameter->ParamArrayValue(index));
   });
+}
+
+// What a row tells of its editor, whether that is a control already or not.
+std::string toldOf(const QRNEdit& row) {
+  std::string told = quoted(row.ValueText()) + ", error " + std::to_string(row.ValueError());
+  told += row.ValueChanged() ? ", changed" : "";
+  told += ", colour " + std::to_string(row.ValueForeColor()) + ", tip " + quoted(row.ValueToolTip());
+  for (std::int32_t i = 0; i < row.ValueCount(); ++i)
+    told += ", " + quoted(row.ValueNames(i)) + std::to_string(row.ValueItems(i));
+  return told + ", " + std::to_string(row.GetMinValueWidth()) + " by " + std::to_string(row.GetMinHeight());
+}
+
+void lookAtEditor(Stage& stage, Numbers& numbers) {
+  const auto parameter = stage.anyParameter(numbers);
+  if (!parameter) return;
+  const QRNEdit& row = parameter->Control();
+  std::string before, after;
+  const host::Editor* editor = nullptr;
+  toAParameter(stage, parameter, "Control().CurrentEditor()", [&] {
+    before = toldOf(row);
+    editor = row.CurrentEditor();
+    after = toldOf(row);
+  });
+  if (before != after) stage.complain("a row looks the same when it is seen", before + " became " + after);
+  if ((editor != nullptr) != row.hasEditor())
+    stage.complain("a row has the editor that it says it has", std::to_string(row.ValueType()));
 }
 
 void acceptValue(Stage& stage, Numbers& numbers) {
@@ -154,6 +180,7 @@ void addValueCalls(Actions& to) {
   to.push_back({"SetValueType", 20, Actor::Host, setValueType});
   to.push_back({"SetValue", 40, Actor::Host, setValue});
   to.push_back({"ReadValue", 10, Actor::Host, readValue});
+  to.push_back({"LookAtEditor", 10, Actor::Host, lookAtEditor});
   to.push_back({"AcceptValue", 20, Actor::Host, acceptValue});
   to.push_back({"SetState", 20, Actor::Host, setState});
   to.push_back({"SetRules", 15, Actor::Host, setRules});
