@@ -94,6 +94,9 @@ const Case kCases[] = {
     {"ComboDisabled", [](TestPanel& p) { p.combo().SetEnabled(false); }, combo},
     {"ComboNoneChosen", [](TestPanel& p) { p.combo().SetListIndex(-1); }, combo},
     {"ComboColoured", [](TestPanel& p) { p.combo().SetForeColor(host::rgb(255, 0, 0)); }, combo},
+    {"ComboAnotherChosen", [](TestPanel& p) { p.combo().SetListIndex(1); }, combo},
+    {"ComboBold",
+     [](TestPanel& p) { p.combo().SetFont(std::make_shared<host::Font>("DejaVu Sans", 8.25, true)); }, combo},
     {"ComboTooLong", [](TestPanel& p) { p.combo().SetList(0, "a very long entry indeed that is cut off"); },
      combo},
     {"Button", [](TestPanel&) {}, button},
@@ -150,6 +153,18 @@ TEST_P(PaintedEditor, LooksLikeTheRealOneWithoutTheFocus) { EXPECT_EQ(paintedAga
 TEST_P(PaintedEditor, LooksLikeTheRealOneAtAnOddPixel) {
   host::Editor& editor = prepared();
   editor.Move(editor.Left() + 1, editor.Top() + 1, editor.Width() + 1, editor.Height() + 1);
+  EXPECT_EQ(paintedAgainstReal(editor), "");
+}
+
+// What is kept of the panel as it was before is another picture.
+TEST_P(PaintedEditor, LooksLikeTheRealOneAfterAChange) {
+  QApplication::setPalette(usual_);
+  painted(platform, *panel);
+  host::Editor& editor = prepared();
+  if (std::get<bool>(GetParam())) {
+    painted(platform, *panel);
+    QApplication::setPalette(darkPalette());
+  }
   EXPECT_EQ(paintedAgainstReal(editor), "");
 }
 

@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QWidget>
 #include <cmath>
 
+#include "base/text.h"
+#include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/qt/qt_surface.h"
 
@@ -33,6 +37,27 @@ class Surface : public testing::Test {
   }
 
   QtPlatform platform;
+};
+
+/// A widget of 20 by 20 pixels that draws on a surface what it has to.
+class DrawingWidget final : public QWidget {
+ public:
+  DrawingWidget(QtPlatform& platform, std::function<void(QtSurface&)> draw)
+      : platform_(platform), draw_(std::move(draw)) {
+    resize(20, 20);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    EXPECT_GT(event->region().rectCount(), 1);
+    QPainter painter(this);
+    QtSurface surface(platform_, painter, fromQt(event->rect()), event->region());
+    draw_(surface);
+  }
+
+ private:
+  QtPlatform& platform_;
+  std::function<void(QtSurface&)> draw_;
 };
 
 TEST_F(Surface, FillsExactlyItsPixelsAtEveryScale) {
@@ -158,6 +183,204 @@ TEST_F(Surface, TextStandsOnTheBaselineOfItsFont) {
     for (int x = 0; x < 20; ++x)
       if (image.pixel(x, y) != kWhitePixel) lowest = y;
   EXPECT_EQ(lowest, 2 + platform.metrics(font).ascent() - 1);
+}
+
+// What is drawn behind the surface's back shows whether it draws.
+TEST_F(Surface, AFillOfTheColourThatIsThereAlreadyIsLeftOut) {
+  QImage image(20, 20, QImage::Format_RGB32);
+  QPainter painter(&image);
+  QtSurface surface(platform, painter, {0, 0, 20, 20});
+  surface.fill({0, 0, 20, 20}, kRed);
+  image.fill(Qt::white);
+  surface.enter({5, 5, 10, 10});
+  surface.fill({0, 0, 10, 10}, kRed);
+  surface.leave();
+  EXPECT_EQ(count(image, kRedPixel), 0);
+}
+
+TEST_F(Surface, AFillCoversWhateverWasDrawnOnItsColour) {
+  const host::Picture picture({{2, 2, std::vector<std::uint32_t>(4, 0xFF0000FF)}});
+  const host::Font font("DejaVu Sans", 9), underlined = [] {
+    host::Font made("DejaVu Sans", 9);
+    made.underline = true;
+    return made;
+  }();
+  constexpr host::Color kBlue = host::rgb(0, 0, 255);
+  const std::function<void(QtSurface&)> drawings[] = {
+      [&](QtSurface& s) {
+        s.fill({6, 6, 3, 3}, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.fill({0, 0, 20, 20}, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.fill({6, 6, 3, 3}, kBlue, host::DrawMode::MergePen);
+      },
+      [&](QtSurface& s) {
+        s.line({0, 7}, {19, 7}, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.line({7, 0}, {7, 19}, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.line({2, 3}, {15, 12}, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.frame({5, 5, 8, 8}, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.frame({5, 5, 8, 8}, kBlue, kBlue, 2);
+      },
+      [&](QtSurface& s) {
+        s.text({4, 3}, "Ag", font, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.text({4, 3}, "Ag", underlined, kBlue);
+      },
+      [&](QtSurface& s) {
+        s.picture({7, 7}, picture);
+      },
+      [&](QtSurface& s) {
+        s.focusRectangle({5, 5, 9, 9});
+      },
+  };
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    int which = 0;
+    for (const auto& draw : drawings) {
+      // In the region itself, in one inside it, in the one around it and in one beside it that overlaps.
+      const auto all = static_cast<int>(400 * scale * scale);
+      EXPECT_LT(count(drawn(scale,
+                            [&](QtSurface& s) {
+                              s.fill({0, 0, 20, 20}, kRed);
+                              draw(s);
+                            }),
+                      kRedPixel),
+                all)
+          << which;
+      EXPECT_EQ(count(drawn(scale,
+                            [&](QtSurface& s) {
+                              s.fill({0, 0, 20, 20}, kRed);
+                              draw(s);
+                              s.fill({0, 0, 20, 20}, kRed);
+                            }),
+                      kRedPixel),
+                all)
+          << which << " " << scale;
+      EXPECT_EQ(count(drawn(scale,
+                            [&](QtSurface& s) {
+                              s.fill({0, 0, 20, 20}, kRed);
+                              s.enter({0, 0, 20, 20});
+                              s.enter({0, 0, 20, 20});
+                              draw(s);
+                              s.leave();
+                              s.leave();
+                              s.fill({0, 0, 20, 20}, kRed);
+                            }),
+                      kRedPixel),
+                all)
+          << which << " " << scale;
+      EXPECT_EQ(count(drawn(scale,
+                            [&](QtSurface& s) {
+                              s.fill({0, 0, 20, 20}, kRed);
+                              draw(s);
+                              s.enter({0, 0, 20, 20});
+                              s.fill({0, 0, 20, 20}, kRed);
+                              s.leave();
+                            }),
+                      kRedPixel),
+                all)
+          << which << " " << scale;
+      EXPECT_EQ(count(drawn(scale,
+                            [&](QtSurface& s) {
+                              s.fill({0, 0, 20, 20}, kRed);
+                              s.enter({0, 0, 20, 20});
+                              draw(s);
+                              s.leave();
+                              s.enter({0, 0, 20, 20});
+                              s.enter({0, 0, 20, 20});
+                              s.fill({0, 0, 20, 20}, kRed);
+                              s.leave();
+                              s.leave();
+                            }),
+                      kRedPixel),
+                all)
+          << which << " " << scale;
+      ++which;
+    }
+  }
+}
+
+TEST_F(Surface, AFillCoversTheLastOfManyThingsThatWereDrawn) {
+  const QImage image = drawn(1, [](QtSurface& s) {
+    s.fill({0, 0, 20, 20}, kRed);
+    for (int i = 0; i < 400; ++i) {
+      s.enter({static_cast<double>(i % 20), static_cast<double>(i / 20), 1, 1});
+      s.fill({0, 0, 1, 1}, host::rgb(0, 0, 255));
+      s.leave();
+    }
+    s.fill({0, 0, 20, 20}, kRed);
+  });
+  EXPECT_EQ(count(image, kRedPixel), 400);
+}
+
+// Most texts are drawn without a clip as their glyphs are known to lie inside.
+TEST_F(Surface, LettersAreCutOffAtTheEdgesOfTheirRegion) {
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    for (const double size : {8.25, 9.0, 14.0}) {
+      for (const bool italic : {false, true}) {
+        const host::Font font("DejaVu Sans", size, false, italic);
+        for (int c = 0x21; c < 0x180; c += c == 0x7E ? 0x23 : 1) {
+          std::string letter;
+          text::append(letter, static_cast<char32_t>(c));
+          const double width = platform.metrics(font).advance(letter);
+          for (const double inset : {0.0, 1.0, 2.0}) {
+            const Rect region{4 + inset, 3 + inset, std::round(width) - 2 * inset, 13 - 2 * inset};
+            const QImage image = drawn(scale, [&](QtSurface& s) {
+              s.enter(region);
+              s.text({-inset, -inset}, letter, font, host::rgb(0, 0, 0));
+              s.leave();
+              // All that may be black lies in there.
+              s.fill(region, host::rgb(255, 255, 255));
+            });
+            ASSERT_EQ(count(image, kWhitePixel), image.width() * image.height())
+                << letter << " " << scale << " " << size << " " << italic << " " << inset;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST_F(Surface, OfAWidgetOnlyThePartsThatHaveToBePaintedAreDrawnAndTheyAreAsEver) {
+  const host::Picture picture({{2, 2, std::vector<std::uint32_t>(4, 0xFF0000FF)}});
+  const host::Font font("DejaVu Sans", 9);
+  const QRegion parts = QRegion(2, 2, 6, 4) + QRegion(4, 10, 12, 6);
+  const auto draw = [&](QtSurface& s) {
+    s.fill({0, 0, 20, 20}, kRed);
+    s.text({3, 1}, "Ag", font, host::rgb(0, 0, 0));
+    s.text({5, 9}, "g", font, host::rgb(0, 0, 0));
+    s.picture({6, 5}, picture);
+    s.picture({10, 12}, picture);
+    s.line({0, 13}, {19, 13}, host::rgb(0, 255, 0));
+    s.enter({1, 1, 8, 18});
+    s.frame({0, 0, 8, 18}, host::rgb(0, 255, 0));
+    s.leave();
+  };
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    const QImage whole = drawn(scale, draw);
+    QImage image(whole.size(), QImage::Format_RGB32), expected(image.size(), QImage::Format_RGB32);
+    for (QImage* one : {&image, &expected}) {
+      one->setDevicePixelRatio(scale);
+      one->fill(Qt::white);
+    }
+    QPainter expecting(&expected);
+    expecting.setClipRegion(parts);
+    expecting.drawImage(0, 0, whole);
+    expecting.end();
+    DrawingWidget widget(platform, draw);
+    widget.render(&image, parts.boundingRect().topLeft(), parts, QWidget::RenderFlags());
+    EXPECT_EQ(image, expected) << scale;
+  }
 }
 
 TEST_F(Surface, TheFocusRectangleCanBeSeen) {

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QToolTip>
+#include <algorithm>
+#include <iterator>
 
 #include "host/text_box.h"
 #include "host/user_control.h"
@@ -50,7 +52,7 @@ void QtCanvas::paintEvent(QPaintEvent* event) {
   if (!control_) return;
   QPainter painter(this);
   guarded([&] {
-    QtSurface surface(platform_, painter, fromQt(event->rect()));
+    QtSurface surface(platform_, painter, fromQt(event->rect()), event->region());
     surface.fill(fromQt(rect()), control_->backColor());
     control_->paintTree(surface);
   });
@@ -58,7 +60,8 @@ void QtCanvas::paintEvent(QPaintEvent* event) {
 
 void QtCanvas::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (!control_ || (event->type() != QEvent::PaletteChange && event->type() != QEvent::StyleChange)) return;
+  constexpr QEvent::Type kLooks[] = {QEvent::PaletteChange, QEvent::StyleChange, QEvent::FontChange};
+  if (!control_ || std::find(std::begin(kLooks), std::end(kLooks), event->type()) == std::end(kLooks)) return;
   platform_.appearanceChanged();
   if (host::Control* focus = input().focus(); focus && focus->peer())
     focus->peer()->changed(host::Aspect::Look);

@@ -7,6 +7,7 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
+#include <typeinfo>
 
 #include "host/check_box.h"
 #include "host/combo_box.h"
@@ -27,7 +28,8 @@
 namespace qrn::qt {
 namespace {
 
-constexpr std::size_t kMostFrames = 256;
+// Beside the bits of each kind's own.
+constexpr int kRightToLeft = 1 << 8;
 // What a line edit keeps free beside its text, within the frame.
 constexpr int kTextMargin = 2;
 
@@ -87,6 +89,39 @@ void drawScrollBar(QPainter& painter, QStyleOptionSlider option) {
   painter.restore();
 }
 
+QStyleOptionComboBox comboOption(const QRect& place, const QPalette& palette, bool enabled,
+                                 const QFont& font) {
+  QStyleOptionComboBox option;
+  setState(option, place, palette, enabled);
+  option.fontMetrics = QFontMetrics(font);
+  option.editable = false;
+  option.frame = true;
+  option.subControls = QStyle::SC_All;
+  option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_SmallIconSize, &option);
+  return option;
+}
+
+/// The surface's painter for what changes its pen, font or clip, which are put back afterwards.
+class StyledPainter {
+ public:
+  explicit StyledPainter(QtSurface& surface) : painter_(surface.clippedPainter()) { painter_.save(); }
+  StyledPainter(const StyledPainter&) = delete;
+  StyledPainter& operator=(const StyledPainter&) = delete;
+  ~StyledPainter() { painter_.restore(); }
+  QPainter& operator*() const { return painter_; }
+  QPainter* operator->() const { return &painter_; }
+
+ private:
+  QPainter& painter_;
+};
+
+// What is shown is the text itself, letter by letter.
+bool isPlain(const host::TextBox& box) {
+  const std::string& text = box.Text();
+  return box.PasswordChar().empty() &&
+         std::all_of(text.begin(), text.end(), [](char c) { return c >= 0x20 && c < 0x7F; });
+}
+
 bool isLatin(const QString& text) {
   return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x100; });
 }
@@ -97,73 +132,104 @@ void QtEditorPainter::paint(QtSurface& surface, const host::Control& control) {
   const Size size = control.pixelSize();
   const Point at = surface.origin();
   const QRect place = toPixels({at.x, at.y, size.width, size.height});
-  if (place.isEmpty()) return;
-  QPainter& painter = surface.clippedPainter();
-  painter.save();
-  if (const auto* box = dynamic_cast<const host::TextBox*>(&control))
-    paintText(painter, place, *box);
-  else if (const auto* check = dynamic_cast<const host::CheckBox*>(&control))
-    paintCheck(painter, place, *check);
-  else if (const auto* combo = dynamic_cast<const host::ComboBox*>(&control))
-    paintCombo(painter, place, *combo);
-  else if (const auto* button = dynamic_cast<const host::CommandButton*>(&control))
-    paintButton(painter, place, *button);
-  else if (const auto* list = dynamic_cast<const host::ListBox*>(&control))
-    paintList(painter, place, *list);
-  else if (const auto* bar = dynamic_cast<const host::VScrollBar*>(&control))
-    paintScrollBar(painter, place, *bar);
-  painter.restore();
+  if (place.isEmpty() || !surface.isNeeded(fromQt(place.adjusted(-1, -1, 1, 1)))) return;
+  // None of them has classes below it, and asking for the class itself is much faster than casting.
+  const std::type_info& type = typeid(control);
+  if (type == typeid(host::TextBox))
+    paintText(surface, place, static_cast<const host::TextBox&>(control));
+  else if (type == typeid(host::ComboBox))
+    paintCombo(surface, place, static_cast<const host::ComboBox&>(control));
+  else if (type == typeid(host::CheckBox))
+    paintCheck(surface, place, static_cast<const host::CheckBox&>(control));
+  else if (type == typeid(host::CommandButton))
+    paintButton(surface, place, static_cast<const host::CommandButton&>(control));
+  else if (type == typeid(host::ListBox))
+    paintList(surface, place, static_cast<const host::ListBox&>(control));
+  else if (type == typeid(host::VScrollBar))
+    paintScrollBar(surface, place, static_cast<const host::VScrollBar&>(control));
+}
+
+std::size_t QtEditorPainter::KeyHash::operator()(const FrameKey& key) const {
+  const auto kind = static_cast<int>(key.kind);
+  return qHashMulti(0, kind, key.state, key.width, key.height, key.scale, key.startX, key.startY, key.palette,
+                    key.behind, quintptr(key.font), std::hash<std::string>()(key.text));
 }
 
 // Kept with what lies behind it, as an opaque picture is drawn many times faster than the style's frame.
-void QtEditorPainter::paintFrame(QPainter& painter, const QRect& place, const host::Editor& editor, char kind,
-                                 int state, const DrawFrame& draw) {
-  const double scale = painter.deviceTransform().m11();
-  const host::Color behind = platform_.resolve(editor.Parent()->backColor());
-  const qint64 palette = platform_.palettes().of(editor).cacheKey();
+template <class Draw>
+const QtEditorPainter::Frame& QtEditorPainter::paintFrame(QtSurface& surface, const QRect& place,
+                                                          const host::Editor& editor, const QPalette& palette,
+                                                          Kind kind, int state, Draw&& draw) {
+  const double scale = surface.scale();
   // At a scale of 1.5 every other pixel starts in the middle of one of the device's, and so does the frame.
-  const QPointF start = painter.deviceTransform().map(QPointF(place.topLeft()));
+  const QPointF start = surface.toDevice().map(QPointF(place.topLeft()));
   const QPointF whole(std::floor(start.x()), std::floor(start.y())), rest = (start - whole) / scale;
-  const FrameKey key{kind, state, place.width(), place.height(), scale, rest.x(), rest.y(), palette, behind};
-  if (frames_.size() >= kMostFrames) frames_.clear();
-  QPixmap& frame = frames_[key];
-  if (frame.isNull()) {
-    frame = QPixmap(QSize(static_cast<int>(std::ceil((place.width() + rest.x()) * scale)),
-                          static_cast<int>(std::ceil((place.height() + rest.y()) * scale))));
-    frame.setDevicePixelRatio(scale);
-    frame.fill(toQColor(behind));
-    QPainter framePainter(&frame);
+  key_.kind = kind;
+  key_.state = state;
+  if (QGuiApplication::layoutDirection() == Qt::RightToLeft) key_.state |= kRightToLeft;
+  key_.width = place.width();
+  key_.height = place.height();
+  key_.scale = scale;
+  key_.startX = rest.x();
+  key_.startY = rest.y();
+  key_.palette = palette.cacheKey();
+  key_.behind = platform_.resolve(editor.Parent()->backColor());
+  auto known = frames_.find(key_);
+  if (known == frames_.end()) {
+    Frame frame;
+    frame.pixels = QPixmap(QSize(static_cast<int>(std::ceil((place.width() + rest.x()) * scale)),
+                                 static_cast<int>(std::ceil((place.height() + rest.y()) * scale))));
+    frame.pixels.setDevicePixelRatio(scale);
+    frame.pixels.fill(toQColor(key_.behind));
+    QPainter framePainter(&frame.pixels);
     framePainter.translate(rest);
-    draw(framePainter, QRect(QPoint(0, 0), place.size()));
+    frame.inside = draw(framePainter, QRect(QPoint(0, 0), place.size()));
+    framePainter.end();
+    known = keep(std::move(frame));
   }
-  painter.drawPixmap(QPointF(place.topLeft()) - rest, frame);
+  // At a scale of 1.5 its last column may be one too many.
+  const QRect covered = surface.wholeScale() ? place : place.adjusted(-1, -1, 1, 1);
+  surface.painterFor(fromQt(covered)).drawPixmap(QPointF(place.topLeft()) - rest, known->second.pixels);
+  return known->second;
 }
 
-void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const host::TextBox& box) {
+QtEditorPainter::Frames::iterator QtEditorPainter::keep(Frame frame) {
+  constexpr std::size_t kMostFrames = 256;
+  constexpr qsizetype kMostPixels = 2'000'000;
+  const qsizetype pixels = qsizetype(frame.pixels.width()) * frame.pixels.height();
+  if (frames_.size() >= kMostFrames || pixels_ + pixels > kMostPixels) forgetFrames();
+  pixels_ += pixels;
+  return frames_.emplace(key_, std::move(frame)).first;
+}
+
+void QtEditorPainter::paintText(QtSurface& surface, const QRect& place, const host::TextBox& box) {
   const QPalette& palette = platform_.palettes().of(box);
-  const int state = (box.enabledUpToSurface() ? 1 : 0) | (box.Locked() ? 2 : 0);
-  paintFrame(painter, place, box, 't', state, [&](QPainter& into, const QRect& at) {
-    const QStyleOptionFrame option = lineEditOption(at, palette, box);
-    style().drawPrimitive(QStyle::PE_PanelLineEdit, &option, &into);
-  });
+  const bool enabled = box.enabledUpToSurface();
+  const int state = (enabled ? 1 : 0) | (box.Locked() ? 2 : 0);
+  const Frame& frame =
+      paintFrame(surface, place, box, palette, Kind::Text, state, [&](QPainter& into, const QRect& at) {
+        const QStyleOptionFrame option = lineEditOption(at, palette, box);
+        style().drawPrimitive(QStyle::PE_PanelLineEdit, &option, &into);
+        return style().subElementRect(QStyle::SE_LineEditContents, &option);
+      });
   if (box.Text().empty()) return;
 
-  const QStyleOptionFrame option = lineEditOption(place, palette, box);
-  const QRect inside = style().subElementRect(QStyle::SE_LineEditContents, &option);
+  const QRect inside = frame.inside.translated(place.topLeft());
   QtFontMetrics& metrics = platform_.metrics(*box.Font());
-  const QString text = displayed(box);
   const Qt::Alignment alignment = horizontalAlignment(box.Alignment());
   const int room = inside.width() - 2 * kTextMargin, left = inside.x() + kTextMargin;
   const auto topOf = [&](int height) { return inside.y() + (inside.height() - height + 1) / 2; };
-  painter.setClipRect(inside, Qt::IntersectClip);
-  painter.setPen(textColor(palette, box.enabledUpToSurface()));
+  const QColor color = textColor(palette, enabled);
   const int height = static_cast<int>(metrics.height());
-  if (isLatin(text)) {
-    const std::string shown = toUtf8(text);
-    const int scrolled = scrolledBy(alignment, qRound(metrics.advance(shown)) + 1, room);
-    drawText(painter, QPointF(left - scrolled, topOf(height) + metrics.ascent()), shown, metrics);
-    return;
-  }
+  const auto drawLatin = [&](std::string_view shown) {
+    // Where the text starts it needs no measuring.
+    const int scrolled =
+        alignment == Qt::AlignLeft ? 0 : scrolledBy(alignment, qRound(metrics.advance(shown)) + 1, room);
+    surface.text(QPointF(left - scrolled, topOf(height) + metrics.ascent()), shown, metrics, color, inside);
+  };
+  if (isPlain(box)) return drawLatin(box.Text());
+  const QString text = displayed(box);
+  if (isLatin(text)) return drawLatin(toUtf8(text));
   // Letters of other fonts may be taller; a line edit centres the whole line and rounds what they add.
   QTextLayout layout(text, metrics.font());
   layout.beginLayout();
@@ -171,98 +237,121 @@ void QtEditorPainter::paintText(QPainter& painter, const QRect& place, const hos
   layout.endLayout();
   const int scrolled = scrolledBy(alignment, qRound(line.naturalTextWidth()) + 1, room);
   const double added = qRound(line.ascent()) - metrics.ascent();
-  layout.draw(&painter, QPointF(left - scrolled, topOf(std::max(height, qRound(line.height()))) - added));
+  const StyledPainter painter(surface);
+  painter->setClipRect(inside, Qt::IntersectClip);
+  painter->setPen(color);
+  layout.draw(&*painter, QPointF(left - scrolled, topOf(std::max(height, qRound(line.height()))) - added));
 }
 
-void QtEditorPainter::paintCheck(QPainter& painter, const QRect& place, const host::CheckBox& box) {
-  const int state = (box.enabledUpToSurface() ? 1 : 0) | (box.Value() != 0 ? 2 : 0);
-  paintFrame(painter, place, box, 'c', state, [&](QPainter& into, const QRect& at) {
+void QtEditorPainter::paintCheck(QtSurface& surface, const QRect& place, const host::CheckBox& box) {
+  const QPalette& palette = platform_.palettes().of(box);
+  const bool enabled = box.enabledUpToSurface();
+  const int state = (enabled ? 1 : 0) | (box.Value() != 0 ? 2 : 0);
+  paintFrame(surface, place, box, palette, Kind::Check, state, [&](QPainter& into, const QRect& at) {
     QStyleOptionButton option;
-    setState(option, at, platform_.palettes().of(box), box.enabledUpToSurface());
+    setState(option, at, palette, enabled);
     option.state |= box.Value() != 0 ? QStyle::State_On : QStyle::State_Off;
     style().drawControl(QStyle::CE_CheckBox, &option, &into);
+    return QRect();
   });
 }
 
-void QtEditorPainter::paintCombo(QPainter& painter, const QRect& place, const host::ComboBox& box) {
-  const QFont& font = platform_.metrics(*box.Font()).font();
+void QtEditorPainter::paintCombo(QtSurface& surface, const QRect& place, const host::ComboBox& box) {
+  QtFontMetrics& metrics = platform_.metrics(*box.Font());
   const QPalette& palette = platform_.palettes().of(box);
-  QStyleOptionComboBox option;
-  setState(option, place, palette, box.enabledUpToSurface());
-  option.fontMetrics = QFontMetrics(font);
-  option.editable = false;
-  option.frame = true;
-  option.subControls = QStyle::SC_All;
-  option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_SmallIconSize, &option);
-  const int state = (box.enabledUpToSurface() ? 1 : 0) | (box.Locked() ? 2 : 0);
-  paintFrame(painter, place, box, 'o', state, [&](QPainter& into, const QRect& at) {
-    QStyleOptionComboBox frame = option;
-    frame.rect = at;
+  const bool enabled = box.enabledUpToSurface();
+  const auto drawFrame = [&](QPainter& into, const QRect& at) {
+    QStyleOptionComboBox option = comboOption(at, palette, enabled, metrics.font());
     if (box.Locked()) {
-      frame.state |= QStyle::State_ReadOnly;
-      return drawFieldFrame(into, frame);
+      option.state |= QStyle::State_ReadOnly;
+      drawFieldFrame(into, option);
+    } else {
+      style().drawComplexControl(QStyle::CC_ComboBox, &option, &into);
     }
-    style().drawComplexControl(QStyle::CC_ComboBox, &frame, &into);
+  };
+  const auto drawChoice = [&](QPainter& into, const QRect& at) {
+    QStyleOptionComboBox option = comboOption(at, palette, enabled, metrics.font());
+    option.currentText = toQString(box.Text());
+    into.setFont(metrics.font());
+    into.setPen(textColor(palette, enabled));
+    style().drawControl(QStyle::CE_ComboBoxLabel, &option, &into);
+  };
+  const int state = (enabled ? 1 : 0) | (box.Locked() ? 2 : 0);
+  // Between two scales letters stand elsewhere in the frame than on the surface.
+  const bool choiceIsPart = surface.wholeScale();
+  if (choiceIsPart) {
+    key_.font = &metrics;
+    if (box.ListIndex() >= 0) key_.text = box.List(box.ListIndex());
+  }
+  paintFrame(surface, place, box, palette, Kind::Combo, state, [&](QPainter& into, const QRect& at) {
+    drawFrame(into, at);
+    if (choiceIsPart) drawChoice(into, at);
+    return QRect();
   });
-  option.currentText = toQString(box.Text());
-  painter.setFont(font);
-  painter.setPen(textColor(palette, box.enabledUpToSurface()));
-  style().drawControl(QStyle::CE_ComboBoxLabel, &option, &painter);
+  key_.font = nullptr;
+  key_.text.clear();
+  if (!choiceIsPart) drawChoice(*StyledPainter(surface), place);
 }
 
-void QtEditorPainter::paintButton(QPainter& painter, const QRect& place, const host::CommandButton& button) {
+void QtEditorPainter::paintButton(QtSurface& surface, const QRect& place, const host::CommandButton& button) {
   const QFont& font = platform_.metrics(*button.Font()).font();
+  const QPalette& palette = platform_.palettes().of(button);
+  const bool enabled = button.enabledUpToSurface();
   QStyleOptionButton option;
-  setState(option, place, platform_.palettes().of(button), button.enabledUpToSurface());
+  setState(option, place, palette, enabled);
   option.state |= QStyle::State_Raised;
   option.fontMetrics = QFontMetrics(font);
   option.iconSize = QSize(1, 1) * style().pixelMetric(QStyle::PM_ButtonIconSize, &option);
-  paintFrame(painter, place, button, 'b', button.enabledUpToSurface() ? 1 : 0,
+  paintFrame(surface, place, button, palette, Kind::Button, enabled ? 1 : 0,
              [&](QPainter& into, const QRect& at) {
                QStyleOptionButton frame = option;
                frame.rect = at;
                style().drawControl(QStyle::CE_PushButtonBevel, &frame, &into);
+               return QRect();
              });
   option.text = toQString(button.Caption());
   option.rect = style().subElementRect(QStyle::SE_PushButtonContents, &option);
-  painter.setFont(font);
-  style().drawControl(QStyle::CE_PushButtonLabel, &option, &painter);
+  const StyledPainter painter(surface);
+  painter->setFont(font);
+  style().drawControl(QStyle::CE_PushButtonLabel, &option, &*painter);
 }
 
-void QtEditorPainter::paintList(QPainter& painter, const QRect& place, const host::ListBox& list) {
+void QtEditorPainter::paintList(QtSurface& surface, const QRect& place, const host::ListBox& list) {
   const QPalette& palette = platform_.palettes().of(list);
+  const bool enabled = list.enabledUpToSurface();
   QStyleOption frame;
-  setState(frame, place, palette, list.enabledUpToSurface());
-  paintFrame(painter, place, list, 'l', list.enabledUpToSurface() ? 1 : 0,
+  setState(frame, place, palette, enabled);
+  paintFrame(surface, place, list, palette, Kind::List, enabled ? 1 : 0,
              [&](QPainter& into, const QRect& at) {
                QStyleOption field = frame;
                field.rect = at;
                drawFieldFrame(into, field);
+               return QRect();
              });
   const int edge = style().pixelMetric(QStyle::PM_DefaultFrameWidth, &frame);
   const QRect inside = place.adjusted(edge, edge, -edge, -edge);
 
   const QFont& font = platform_.metrics(*list.Font()).font();
   const int height = listItemHeight(font), all = height * list.ListCount();
+  const StyledPainter painter(surface);
   QRect entries = inside.adjusted(kListMargin, kListMargin, -kListMargin, -kListMargin);
   if (all > entries.height()) {
     const int width = style().pixelMetric(QStyle::PM_ScrollBarExtent, &frame);
     QStyleOptionSlider bar;
-    setState(bar, QRect(inside.right() + 1 - width, inside.y(), width, inside.height()), palette,
-             list.enabledUpToSurface());
+    setState(bar, QRect(inside.right() + 1 - width, inside.y(), width, inside.height()), palette, enabled);
     bar.maximum = all - entries.height();
     bar.pageStep = entries.height();
-    drawScrollBar(painter, bar);
+    drawScrollBar(*painter, bar);
     entries.setRight(entries.right() - width);
   }
-  painter.setClipRect(entries, Qt::IntersectClip);
+  painter->setClipRect(entries, Qt::IntersectClip);
   for (int i = 0, top = entries.top(); i < list.ListCount() && top <= entries.bottom(); ++i, top += height) {
-    const QtListItem item{toQString(list.List(i)), list.Selected(i), list.enabledUpToSurface(), false};
-    item.paint(painter, QRect(entries.left(), top, entries.width(), height), palette, font);
+    const QtListItem item{toQString(list.List(i)), list.Selected(i), enabled, false};
+    item.paint(*painter, QRect(entries.left(), top, entries.width(), height), palette, font);
   }
 }
 
-void QtEditorPainter::paintScrollBar(QPainter& painter, const QRect& place, const host::VScrollBar& bar) {
+void QtEditorPainter::paintScrollBar(QtSurface& surface, const QRect& place, const host::VScrollBar& bar) {
   QStyleOptionSlider option;
   setState(option, place, QApplication::palette(), bar.enabledUpToSurface());
   option.minimum = bar.Min();
@@ -270,7 +359,7 @@ void QtEditorPainter::paintScrollBar(QPainter& painter, const QRect& place, cons
   option.sliderPosition = option.sliderValue = bar.Value();
   option.pageStep = bar.LargeChange();
   option.singleStep = bar.SmallChange();
-  drawScrollBar(painter, option);
+  drawScrollBar(*StyledPainter(surface), option);
 }
 
 }  // namespace qrn::qt

@@ -2,9 +2,8 @@
 
 #include <QFontMetrics>
 #include <QGuiApplication>
-#include <QPainter>
 #include <QScreen>
-#include <cmath>
+#include <algorithm>
 
 #include "base/text.h"
 #include "platform/qt/qt_text.h"
@@ -40,9 +39,10 @@ QtFontMetrics::QtFontMetrics(const host::Font& font) : font_(toQFont(font)), sha
   height_ = whole.height();
   ascent_ = whole.ascent();
   letters_.fill(kUnknown);
-  glyphs_.fill(kNotAsked);
+  glyphs_.fill({kNotAsked, 0, 0, 0, 0});
   raw_ = QRawFont::fromFont(font_);
-  run_.setRawFont(raw_);
+  asked_.run.setRawFont(raw_);
+  inGlyphs_ = raw_.isValid() && !font_.underline() && !font_.strikeOut();
 }
 
 double QtFontMetrics::shaped(std::string_view text) const {
@@ -99,48 +99,46 @@ std::optional<double> QtFontMetrics::plainAdvance(std::string_view text) {
   return width;
 }
 
-quint32 QtFontMetrics::glyph(unsigned char c) {
-  quint32& kept = glyphs_[c];
-  if (kept == kNotAsked) {
-    const QList<quint32> found = raw_.glyphIndexesForString(QString(QChar(c)));
-    kept = found.size() == 1 ? found.front() : kNoGlyph;
-  }
+const QtFontMetrics::Glyph& QtFontMetrics::glyph(unsigned char c) {
+  Glyph& kept = glyphs_[c];
+  if (kept.index != kNotAsked) return kept;
+  const QList<quint32> found = raw_.glyphIndexesForString(QString(QChar(c)));
+  kept.index = found.size() == 1 ? found.front() : kNoGlyph;
+  const QRectF ink = raw_.boundingRect(kept.index);
+  kept.left = static_cast<float>(ink.left());
+  kept.top = static_cast<float>(ink.top());
+  kept.right = static_cast<float>(ink.right());
+  kept.bottom = static_cast<float>(ink.bottom());
   return kept;
 }
 
-const QGlyphRun* QtFontMetrics::glyphs(std::string_view text) {
-  if (font_.underline() || font_.strikeOut() || !raw_.isValid()) return nullptr;
-  QList<quint32> indexes;
-  QList<QPointF> places;
-  double x = 0;
+const QtGlyphs* QtFontMetrics::glyphs(std::string_view text) {
+  if (!inGlyphs_) return nullptr;
+  indexes_.clear();
+  places_.clear();
+  constexpr double kNone = 1e6;
+  double x = 0, left = kNone, right = -kNone;
+  float top = 0, bottom = 0;
   char32_t before = 0;
   for (std::size_t at = 0; at < text.size();) {
     const char32_t c = text::next(text, at);
     if (c < 0x20 || c >= kLetters || mayJoin(before, c)) return nullptr;
     const auto letterCode = static_cast<unsigned char>(c);
-    const quint32 index = glyph(letterCode);
-    if (index == kNoGlyph) return nullptr;
+    const Glyph& found = glyph(letterCode);
+    if (found.index == kNoGlyph) return nullptr;
     if (before != 0) x += kerning(static_cast<unsigned char>(before), letterCode);
-    indexes.append(index);
-    places.append(QPointF(x, 0));
+    indexes_.push_back(found.index);
+    places_.emplace_back(x, 0);
+    left = std::min(left, x + static_cast<double>(found.left));
+    right = std::max(right, x + static_cast<double>(found.right));
+    top = std::min(top, found.top);
+    bottom = std::max(bottom, found.bottom);
     x += letter(letterCode);
     before = c;
   }
-  run_.setGlyphIndexes(indexes);
-  run_.setPositions(places);
-  return &run_;
-}
-
-void drawText(QPainter& painter, QPointF at, std::string_view text, QtFontMetrics& metrics) {
-  // Between two scales Qt rounds the places of the letters in its own way.
-  const double scale = painter.deviceTransform().m11();
-  const QGlyphRun* const glyphs = scale == std::floor(scale) ? metrics.glyphs(text) : nullptr;
-  if (glyphs) {
-    painter.drawGlyphRun(at, *glyphs);
-    return;
-  }
-  painter.setFont(metrics.font());
-  painter.drawText(at, toQString(text));
+  asked_.run.setRawData(indexes_.data(), places_.data(), static_cast<int>(indexes_.size()));
+  asked_.ink = text.empty() ? QRectF() : QRectF(QPointF(left, top), QPointF(right, bottom));
+  return &asked_;
 }
 
 }  // namespace qrn::qt

@@ -4,15 +4,20 @@
 #include <QFontMetricsF>
 #include <QGlyphRun>
 #include <QRawFont>
+#include <QRectF>
 #include <array>
 #include <optional>
 #include <vector>
 
 #include "host/font.h"
 
-class QPainter;
-
 namespace qrn::qt {
+
+/// A text's glyphs, and where they leave ink, both from the beginning of the base line.
+struct QtGlyphs {
+  QGlyphRun run;
+  QRectF ink;
+};
 
 /// Widths from a table of letters and pairs of letters, each shaped once; what the table can't know is shaped
 /// whole. The height is the one that the widgets of Qt work with.
@@ -28,7 +33,7 @@ class QtFontMetrics final : public host::FontMetrics {
 
   /// The glyphs of a text that the tables know, at the places that Qt would find after a while; null for what
   /// it has to shape itself. Valid until the next call.
-  const QGlyphRun* glyphs(std::string_view text);
+  const QtGlyphs* glyphs(std::string_view text);
 
  private:
   // Letters up to U+00FF; beyond them pairs would fill too large a table.
@@ -39,7 +44,11 @@ class QtFontMetrics final : public host::FontMetrics {
   double letter(unsigned char c);
   double kerning(unsigned char first, unsigned char second);
   std::optional<double> plainAdvance(std::string_view text);
-  quint32 glyph(unsigned char c);
+  struct Glyph {
+    quint32 index;
+    float left, top, right, bottom;  // of the ink, from where the glyph stands
+  };
+  const Glyph& glyph(unsigned char c);
 
   QFont font_;
   QFontMetricsF shaper_;
@@ -54,12 +63,13 @@ class QtFontMetrics final : public host::FontMetrics {
 
   static constexpr quint32 kNoGlyph = 0, kNotAsked = 0xFFFFFFFF;
   QRawFont raw_;
-  std::array<quint32, kLetters> glyphs_;
-  QGlyphRun run_;
+  bool inGlyphs_;  // lines under and through it aren't glyphs
+  std::array<Glyph, kLetters> glyphs_;
+  // Of the text that was asked for last.
+  QtGlyphs asked_;
+  std::vector<quint32> indexes_;
+  std::vector<QPointF> places_;
 };
-
-/// Draws a text with its base line at a point, in the painter's pen.
-void drawText(QPainter& painter, QPointF at, std::string_view text, QtFontMetrics& metrics);
 
 /// The font of Qt for what a caller asked for: points are those of 96 to the inch, whatever the screen says.
 QFont toQFont(const host::Font& font);

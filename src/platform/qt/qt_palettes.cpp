@@ -1,6 +1,7 @@
 #include "platform/qt/qt_palettes.h"
 
 #include <QApplication>
+#include <typeinfo>
 
 #include "host/check_box.h"
 #include "host/combo_box.h"
@@ -10,14 +11,6 @@
 
 namespace qrn::qt {
 namespace {
-
-// A drop list is a button and a check mark lies in its box: only a colour of the caller's own replaces what
-// the style has there.
-host::Color backgroundOf(const host::Editor& editor, QPalette::ColorRole role, const QtPlatform& platform) {
-  const bool styled = dynamic_cast<const host::CheckBox*>(&editor) ||
-                      (role == QPalette::Button && host::isSystemColor(editor.BackColor()));
-  return styled ? fromQt(QApplication::palette().color(role)) : platform.resolve(editor.BackColor());
-}
 
 // Where the text will lie: styles draw a dark button lighter than its colour.
 host::Color behindText(host::Color back, QPalette::ColorRole role) {
@@ -38,20 +31,53 @@ void keepOutlines(QPalette& palette) {
 
 }  // namespace
 
+void QtPalettes::forget() {
+  wishes_.clear();
+  palettes_.clear();
+}
+
+// Colours have to be resolved and made readable: editors that wish for the same are told from how they say
+// it.
 const QPalette& QtPalettes::of(const host::Editor& editor) {
-  const auto* combo = dynamic_cast<const host::ComboBox*>(&editor);
+  constexpr std::size_t kMostWishes = 64;
+  const qint64 application = QApplication::palette().cacheKey();
+  if (application != application_ || wishes_.size() >= kMostWishes) forget();
+  application_ = application;
+  const std::type_info& type = typeid(editor);
   // A locked drop list has nothing to press and looks like a text.
-  const bool pressable = (combo && !combo->Locked()) || dynamic_cast<const host::CommandButton*>(&editor);
-  const QPalette::ColorRole role = pressable ? QPalette::Button : QPalette::Base;
-  const host::Color back = backgroundOf(editor, role, platform_);
-  const host::Color wish = platform_.resolve(editor.textColor());
-  const host::Color text =
-      editor.enabledUpToSurface() ? host::readableOn(wish, behindText(back, role)) : wish;
-  const auto [entry, fresh] = palettes_.try_emplace({role, back, text});
+  const bool pressable =
+      type == typeid(host::CommandButton) ||
+      (type == typeid(host::ComboBox) && !static_cast<const host::ComboBox&>(editor).Locked());
+  // A drop list is a button and a check mark lies in its box: only a colour of the caller's own replaces what
+  // the style has there.
+  const bool styled =
+      type == typeid(host::CheckBox) || (pressable && host::isSystemColor(editor.BackColor()));
+  Wish wish{pressable ? QPalette::Button : QPalette::Base,
+            styled,
+            editor.enabledUpToSurface(),
+            editor.BackColor(),
+            editor.textColor(),
+            nullptr};
+  for (const Wish& known : wishes_) {
+    if (known.role == wish.role && known.styled == wish.styled && known.enabled == wish.enabled &&
+        known.back == wish.back && known.text == wish.text)
+      return *known.palette;
+  }
+  wish.palette = &found(wish);
+  wishes_.push_back(wish);
+  return *wish.palette;
+}
+
+const QPalette& QtPalettes::found(const Wish& wish) {
+  const host::Color back =
+      wish.styled ? fromQt(QApplication::palette().color(wish.role)) : platform_.resolve(wish.back);
+  const host::Color color = platform_.resolve(wish.text);
+  const host::Color text = wish.enabled ? host::readableOn(color, behindText(back, wish.role)) : color;
+  const auto [entry, fresh] = palettes_.try_emplace({wish.role, back, text});
   if (fresh) {
     QPalette palette = QApplication::palette();
     keepOutlines(palette);
-    palette.setColor(role, toQColor(back));
+    palette.setColor(wish.role, toQColor(back));
     for (const auto each : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
       palette.setColor(each, toQColor(text));
     entry->second = palette;

@@ -3,6 +3,7 @@
 #include <QPalette>
 #include <map>
 #include <tuple>
+#include <vector>
 
 #include "host/color.h"
 
@@ -20,14 +21,27 @@ class QtPalettes {
  public:
   explicit QtPalettes(QtPlatform& platform) : platform_(platform) {}
 
+  /// Valid until the next call.
   const QPalette& of(const host::Editor& editor);
-  void forget() { palettes_.clear(); }
+  void forget();
 
  private:
+  /// What a palette follows from, as the editor has it, and the one that was found.
+  struct Wish {
+    QPalette::ColorRole role;
+    bool styled;
+    bool enabled;
+    host::Color back, text;  // may be system colours
+    const QPalette* palette;
+  };
   // The role that is the editor's background, that background and the text.
   using Key = std::tuple<QPalette::ColorRole, host::Color, host::Color>;
 
+  const QPalette& found(const Wish& wish);
+
   QtPlatform& platform_;
+  qint64 application_ = 0;  // the application's palette that all of this was made from
+  std::vector<Wish> wishes_;
   std::map<Key, QPalette> palettes_;
 };
 

@@ -120,6 +120,18 @@ Point QtPlatform::screenPosition(const host::Control& control) const {
 }
 
 host::Color QtPlatform::system(host::SystemColor which) const {
+  const auto index = static_cast<std::size_t>(which);
+  if (index >= kSystemColors) return systemNow(which);
+  if (const qint64 palette = QApplication::palette().cacheKey(); palette != palette_) {
+    palette_ = palette;
+    systemColors_.fill(std::nullopt);
+  }
+  auto& kept = systemColors_[index];
+  if (!kept) kept = systemNow(which);
+  return *kept;
+}
+
+host::Color QtPlatform::systemNow(host::SystemColor which) const {
   const QPalette palette = QApplication::palette();
   const auto color = [&](QPalette::ColorRole role) { return fromQt(palette.color(QPalette::Active, role)); };
   switch (which) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <deque>
 #include <utility>
 
@@ -49,12 +50,15 @@ class QtPlatform final : public host::Platform {
 
   QtPalettes& palettes() { return palettes_; }
   QtPictureCache& pictures() { return pictures_; }
+  const QtEditorPainter& editorPainter() const { return editorPainter_; }
   int menusShown() const { return menusShown_; }
   QtAccessibleEvents& accessibleEvents() { return accessibleEvents_; }
   /// Palette, style or scale of the application are others now.
   void appearanceChanged();
 
  private:
+  host::Color systemNow(host::SystemColor which) const;
+
   host::FontPtr defaultFont_;
   std::deque<std::pair<host::Font, QtFontMetrics>> metrics_;
   QtWindows windows_;
@@ -65,6 +69,10 @@ class QtPlatform final : public host::Platform {
   QtAccessibleEvents accessibleEvents_;
   QtEditorPainter editorPainter_;
   int menusShown_ = 0;
+  // The system's colours that were asked for, and of which palette of the application they are.
+  static constexpr std::size_t kSystemColors = 32;
+  mutable qint64 palette_ = 0;
+  mutable std::array<std::optional<host::Color>, kSystemColors> systemColors_;
 };
 
 }  // namespace qrn::qt

@@ -5,9 +5,9 @@
 namespace qrn::qt {
 
 QtScrollBarPeer::QtScrollBarPeer(QtCanvas& canvas, host::VScrollBar& bar)
-    : QtChildPeer(canvas, bar, new QScrollBar(Qt::Vertical, &canvas)),
+    : QtChildPeer(canvas, bar, new QtScrollBar(&canvas)),
       bar_(bar),
-      widget_(static_cast<QScrollBar&>(*widget())) {
+      widget_(static_cast<QtScrollBar&>(*widget())) {
   widget_.setFocusPolicy(Qt::NoFocus);
   bringUpToDate();
   QObject::connect(&widget_, &QScrollBar::valueChanged, context(),

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QScrollBar>
-
 #include "host/v_scroll_bar.h"
 #include "platform/qt/qt_child_peer.h"
+#include "platform/qt/qt_scroll_bar.h"
 
 namespace qrn::qt {
 
@@ -18,7 +17,7 @@ class QtScrollBarPeer final : public QtChildPeer {
   void applyRange() override;
 
   host::VScrollBar& bar_;
-  QScrollBar& widget_;
+  QtScrollBar& widget_;
 };
 
 }  // namespace qrn::qt
