@@ -8,6 +8,7 @@
 
 #include "host/form.h"
 #include "host/popup_menu.h"
+#include "platform/qt/qt_text.h"
 #include "test_panel.h"
 
 namespace qrn::qt {
@@ -138,6 +139,29 @@ TEST_F(Platform, WidthsAreThoseOfShapedText) {
           << text << " " << size;
     }
   }
+}
+
+TEST_F(Platform, ATextThatHasToBeShapedIsShapedOnce) {
+  QtFontMetrics metrics(host::Font("DejaVu Sans", 9));
+  const QFontMetricsF exact(metrics.font());
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(metrics.advance("Office off"), exact.horizontalAdvance("Office off"));
+    EXPECT_EQ(metrics.advance("\u03a9"), exact.horizontalAdvance(QString(QChar(0x3a9))));
+  }
+  EXPECT_EQ(metrics.textsShaped(), 2);
+}
+
+TEST_F(Platform, OfTextsThatWereShapedFewAreKept) {
+  QtFontMetrics metrics(host::Font("DejaVu Sans", 9));
+  const QFontMetricsF exact(metrics.font());
+  for (int i = 0; i < 2000; ++i) {
+    const QString text = QString("off %1").arg(i % 700);
+    ASSERT_EQ(metrics.advance(toUtf8(text)), exact.horizontalAdvance(text));
+    ASSERT_LE(metrics.textsKept(), 512U);
+  }
+  const std::size_t kept = metrics.textsKept();
+  metrics.advance(std::string(1000, 'f'));
+  EXPECT_EQ(metrics.textsKept(), kept);
 }
 
 TEST_F(Platform, PointsAreThoseOfNinetySixToTheInch) {

@@ -45,8 +45,17 @@ QtFontMetrics::QtFontMetrics(const host::Font& font) : font_(toQFont(font)), sha
   inGlyphs_ = raw_.isValid() && !font_.underline() && !font_.strikeOut();
 }
 
-double QtFontMetrics::shaped(std::string_view text) const {
-  return shaper_.horizontalAdvance(toQString(text));
+// A form has the same units and choices in many rows, and a single one with a pair that may be joined would
+// take longer than all its other texts.
+double QtFontMetrics::shaped(std::string_view text) {
+  constexpr std::size_t kMostKept = 512, kLongest = 64;
+  if (const auto known = widths_.find(text); known != widths_.end()) return known->second;
+  ++textsShaped_;
+  const double width = shaper_.horizontalAdvance(toQString(text));
+  if (text.size() > kLongest) return width;
+  if (widths_.size() >= kMostKept) widths_.clear();
+  widths_.emplace(text, width);
+  return width;
 }
 
 double QtFontMetrics::letter(unsigned char c) {
@@ -79,21 +88,27 @@ double QtFontMetrics::advance(std::string_view text) {
   return width;
 }
 
-// Most texts are plain, and their few pairs lie close together.
+// Most texts are plain, and their few pairs lie close together. Pairs that may be joined stay unknown there.
 std::optional<double> QtFontMetrics::plainAdvance(std::string_view text) {
   if (plainPairs_.empty()) plainPairs_.assign(kPlain * kPlain, kUnknown);
-  double width = 0;
-  unsigned char before = 0;
-  for (const char c : text) {
-    const auto code = static_cast<unsigned char>(c);
-    if (code < kFirstPlain || code >= kFirstPlain + kPlain || mayJoin(before, code)) return std::nullopt;
-    if (before == 0) {
-      width = letter(code);
-    } else {
-      float& added = plainPairs_[(before - kFirstPlain) * kPlain + (code - kFirstPlain)];
-      if (added == kUnknown) added = static_cast<float>(kerning(before, code) + letter(code));
-      width += static_cast<double>(added);
+  if (text.empty()) return 0;
+  const auto plain = [&](std::size_t at) {
+    return static_cast<std::size_t>(static_cast<unsigned char>(text[at])) - kFirstPlain;
+  };
+  std::size_t before = plain(0);
+  if (before >= kPlain) return std::nullopt;
+  double width = letter(static_cast<unsigned char>(text[0]));
+  for (std::size_t at = 1; at < text.size(); ++at) {
+    const std::size_t code = plain(at);
+    if (code >= kPlain) return std::nullopt;
+    float& added = plainPairs_[before * kPlain + code];
+    if (added == kUnknown) {
+      const auto first = static_cast<unsigned char>(text[at - 1]),
+                 second = static_cast<unsigned char>(text[at]);
+      if (mayJoin(first, second)) return std::nullopt;
+      added = static_cast<float>(kerning(first, second) + letter(second));
     }
+    width += static_cast<double>(added);
     before = code;
   }
   return width;

@@ -6,7 +6,10 @@
 #include <QRawFont>
 #include <QRectF>
 #include <array>
+#include <functional>
 #include <optional>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "host/font.h"
@@ -20,7 +23,7 @@ struct QtGlyphs {
 };
 
 /// Widths from a table of letters and pairs of letters, each shaped once; what the table can't know is shaped
-/// whole. The height is the one that the widgets of Qt work with.
+/// whole, and short texts are kept then. The height is the one that the widgets of Qt work with.
 class QtFontMetrics final : public host::FontMetrics {
  public:
   explicit QtFontMetrics(const host::Font& font);
@@ -30,6 +33,9 @@ class QtFontMetrics final : public host::FontMetrics {
   double ascent() const override { return ascent_; }
 
   const QFont& font() const { return font_; }
+  /// How many texts were shaped whole, and how many of them are kept.
+  int textsShaped() const { return textsShaped_; }
+  std::size_t textsKept() const { return widths_.size(); }
 
   /// The glyphs of a text that the tables know, at the places that Qt would find after a while; null for what
   /// it has to shape itself. Valid until the next call.
@@ -40,7 +46,7 @@ class QtFontMetrics final : public host::FontMetrics {
   static constexpr std::size_t kLetters = 256;
   static constexpr float kUnknown = -1e6F;
 
-  double shaped(std::string_view text) const;
+  double shaped(std::string_view text);
   double letter(unsigned char c);
   double kerning(unsigned char first, unsigned char second);
   std::optional<double> plainAdvance(std::string_view text);
@@ -50,8 +56,15 @@ class QtFontMetrics final : public host::FontMetrics {
   };
   const Glyph& glyph(unsigned char c);
 
+  struct TextHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view text) const { return std::hash<std::string_view>()(text); }
+  };
+
   QFont font_;
   QFontMetricsF shaper_;
+  std::unordered_map<std::string, double, TextHash, std::equal_to<>> widths_;  // of texts shaped whole
+  int textsShaped_ = 0;
   double height_;
   double ascent_;
   std::array<float, kLetters> letters_;
