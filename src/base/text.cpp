@@ -1,6 +1,8 @@
 #include "base/text.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace qrn::text {
 namespace {
@@ -23,6 +25,15 @@ int sequenceLength(unsigned char first) {
 bool isOverlongOrSurrogate(char32_t c, int bytes) {
   return (bytes == 3 && c < 0x800) || (bytes == 4 && (c < 0x10000 || c > 0x10FFFF)) ||
          (c >= 0xD800 && c < 0xE000);
+}
+
+// Eight letters at once: the top bit of each byte tells whether that is one from A to Z.
+std::uint64_t loweredBytes(std::uint64_t bytes) {
+  constexpr std::uint64_t kEach = 0x0101010101010101;
+  const std::uint64_t low = bytes & kEach * 0x7F;
+  const std::uint64_t fromA = low + kEach * (0x80 - 'A'), behindZ = low + kEach * (0x7F - 'Z');
+  const std::uint64_t letters = (fromA & ~behindZ) & ~bytes & kEach * 0x80;
+  return bytes | (letters >> 2);
 }
 
 }  // namespace
@@ -90,8 +101,13 @@ bool sameName(std::string_view a, std::string_view b) {
 }
 
 std::size_t nameHash(std::string_view name) {
-  std::uint64_t hash = 14695981039346656037u;  // FNV-1a
-  for (const char c : name) hash = (hash ^ lower(static_cast<unsigned char>(c))) * 1099511628211u;
+  std::uint64_t hash = name.size();
+  for (; !name.empty(); name.remove_prefix(std::min<std::size_t>(name.size(), 8))) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, name.data(), std::min<std::size_t>(name.size(), 8));
+    hash = (hash ^ loweredBytes(bytes)) * 0x9E3779B97F4A7C15;
+    hash ^= hash >> 32;
+  }
   return static_cast<std::size_t>(hash);
 }
 

@@ -43,7 +43,6 @@ Kind ValueEditor::kindFor(qrnValueType type) {
 }
 
 void ValueEditor::begin(Kind kind) {
-  *this = {};
   const std::string_view progId = classOf(kind).progId;
   if (!progId.empty() && !host::isControlClass(progId)) return;
   kind_ = kind;

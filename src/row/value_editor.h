@@ -24,7 +24,7 @@ class ValueEditor {
   /// There is something to enter a value in, be it a control already or not.
   bool exists() const { return kind_ != Kind::None && kind_ != Kind::Array; }
 
-  /// An empty one of a kind. There is none whose class is not known.
+  /// An empty one of a kind, where there is none. There is none either whose class is not known.
   void begin(Kind kind);
   /// Answers the control, which goes with it; null if there is none yet.
   host::Owned<host::Control> end();

@@ -58,8 +58,12 @@ class KeyedList {
     const std::int32_t position = before >= 1 && before <= count() ? before : count() + 1;
     auto entry = std::make_unique<Entry>(Entry{std::move(key), std::move(value), position, hash});
     Entry& added = *entry;
-    entries_.insert(entries_.begin() + (position - 1), std::move(entry));
-    renumberFrom(position + 1);
+    if (position > count()) {
+      entries_.push_back(std::move(entry));
+    } else {
+      entries_.insert(entries_.begin() + (position - 1), std::move(entry));
+      renumberFrom(position + 1);
+    }
     if (!index_.empty())
       index_.insert(added);
     else if (count() > kFew)

@@ -102,6 +102,20 @@ TEST(Names, ThatAreTheSameHaveTheSameHash) {
   EXPECT_NE(nameHash("@"), nameHash("`"));
 }
 
+TEST(Names, HaveTheSameHashForTheCaseOfNoOtherBytes) {
+  for (std::size_t at = 0; at < 19; ++at) {
+    for (int first = 0; first < 256; ++first) {
+      std::string one(19, 'x'), other = one;
+      one[at] = static_cast<char>(first);
+      for (const int second : {first ^ 0x20, first ^ 0x80, first}) {
+        other[at] = static_cast<char>(second);
+        ASSERT_EQ(nameHash(one) == nameHash(other), sameName(one, other))
+            << at << ": " << first << ", " << second;
+      }
+    }
+  }
+}
+
 TEST(Text, HasHelpersForLettersBlanksAndParts) {
   EXPECT_EQ(lowered("ABC-xyz-\u00c4"), "abc-xyz-\u00c4");
   EXPECT_EQ(trimmed(" \t a b\r\n"), "a b");
