@@ -77,10 +77,10 @@ ContainerControl::Rearrangement::~Rearrangement() {
   if (--container.rearranging_ == 0) container.tellArranged();
 }
 
-Rect ContainerControl::pixelBounds(const Control& child) const {
+Rect ContainerControl::toPixels(const Rect& inside) const {
   const Point scale = pixelsPerUnit(), offset = scrollOffset();
-  const Rect& b = child.bounds();
-  return {b.left * scale.x - offset.x, b.top * scale.y - offset.y, b.width * scale.x, b.height * scale.y};
+  return {inside.left * scale.x - offset.x, inside.top * scale.y - offset.y, inside.width * scale.x,
+          inside.height * scale.y};
 }
 
 template <class Visit>

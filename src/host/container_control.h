@@ -39,7 +39,7 @@ class ContainerControl : public Control {
   virtual Point scrollOffset() const { return {}; }
 
   /// The place of a contained control in pixels of this one.
-  Rect pixelBounds(const Control& child) const;
+  Rect pixelBounds(const Control& child) const { return toPixels(child.bounds()); }
   /// The uppermost visible and enabled one; the mouse goes through a disabled control to what lies behind it.
   Control* childAt(Point pixels) const;
   /// Draws this control and everything in it that has no native widget.
@@ -80,6 +80,9 @@ class ContainerControl : public Control {
   friend class Control;
   friend class Controls;
   friend struct LifeCycle;
+
+  /// What lies inside, from scale units to pixels of this one.
+  Rect toPixels(const Rect& inside) const;
 
   void arrange();
   void tellArranged();

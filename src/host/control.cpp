@@ -228,15 +228,17 @@ const Control* Control::paintedBy() const {
 void Control::invalidate(const Rect& pixels) {
   const Control* const painter = paintedBy();
   if (!painter) return;
-  const auto clipped = [](const Rect& area, const Control& control) {
-    return area.intersected({0, 0, control.pixelSize().width, control.pixelSize().height});
-  };
-  Rect area = clipped(pixels, *this);
+  // Once for all that this one lies in.
+  if (container_) container_->settle();
+  Rect area = pixels;
   // Whatever is clipped away on the way to the surface needs no painting.
-  for (const Control* control = this; control != painter && !area.empty(); control = control->container_) {
-    const ContainerControl& container = *control->container_;
-    area = clipped(area.translated(container.pixelBounds(*control).topLeft()), container);
+  for (const Control* control = this; control != painter; control = control->container_) {
+    const Rect place = control->container_->toPixels(control->bounds_);
+    area = area.intersected({0, 0, place.width, place.height}).translated(place.topLeft());
+    if (area.empty()) return;
   }
+  const Size whole = painter->pixelSize();
+  area = area.intersected({0, 0, whole.width, whole.height});
   if (!area.empty()) painter->peer()->invalidate(area);
 }
 
