@@ -159,7 +159,7 @@ host::Control& Replay::part(const Words& words) {
   if (words.size() < 3) {
     host::Control& whole = item(words.at(1));
     auto* asRow = dynamic_cast<QRNEdit*>(&whole);
-    return asRow && asRow->hasEditor() ? *asRow->CurrentEditor() : whole;
+    return asRow && asRow->CurrentEditor() ? *asRow->CurrentEditor() : whole;
   }
   QRNEdit& found = row(words[1]);
   if (words[2] == "label") return found.lblLabel();

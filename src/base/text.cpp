@@ -90,8 +90,7 @@ std::string_view slice(std::string_view utf8, std::size_t position, std::size_t 
   return count == std::string_view::npos ? utf8 : utf8.substr(0, byteOffset(utf8, count));
 }
 
-bool sameName(std::string_view a, std::string_view b) {
-  if (a.size() != b.size()) return false;
+bool sameLetters(std::string_view a, std::string_view b) {
   if (a == b) return true;
   // From the end: names that are much alike mostly begin alike.
   for (std::size_t i = a.size(); i-- > 0;) {

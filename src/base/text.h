@@ -17,8 +17,12 @@ std::string_view slice(std::string_view utf8, std::size_t position,
 char32_t next(std::string_view utf8, std::size_t& offset);
 void append(std::string& utf8, char32_t codePoint);
 
+/// Of two names of the same length.
+bool sameLetters(std::string_view a, std::string_view b);
 /// Compares names and keys: the case of ASCII letters does not count.
-bool sameName(std::string_view a, std::string_view b);
+inline bool sameName(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && sameLetters(a, b);
+}
 std::size_t nameHash(std::string_view name);
 
 std::string lowered(std::string_view ascii);

@@ -35,7 +35,7 @@ std::span<const ProgId> classesAbove;
 const ProgId* find(std::string_view progId) {
   for (const auto list : {std::span<const ProgId>(kStandardClasses), classesAbove}) {
     for (const ProgId& known : list) {
-      if (known.name.size() == progId.size() && text::sameName(known.name, progId)) return &known;
+      if (text::sameName(known.name, progId)) return &known;
     }
   }
   return nullptr;

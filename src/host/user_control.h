@@ -45,9 +45,10 @@ class UserControl : public ContainerControl, public Site {
   /// Saves the properties that differ from their defaults.
   virtual void writeProperties(PropertyBag& bag) const;
 
-  // A child's site is its user control.
+  // A child's site is its user control, which has nothing to do with its properties.
   Platform& platform() const override { return site_->platform(); }
   Ambient ambient() const override;
+  void propertyChanged(UserControl& /*child*/, std::string_view /*key*/) final {}
 
   UserControl* asUserControl() override { return this; }
   PeerPolicy peerPolicy() const override { return Container() ? PeerPolicy::Never : PeerPolicy::Surface; }
@@ -112,10 +113,8 @@ class UserControl : public ContainerControl, public Site {
   /// A control of the collection has been removed by its name, whoever did it.
   virtual void controlRemoved(std::string_view /*name*/) {}
 
-  /// Tells the site, which may do anything: answers whether the control is still there. A user control has
-  /// nothing to do with the properties of those inside it.
+  /// Tells the site, which may do anything: answers whether the control is still there.
   bool propertyChanged(std::string_view key) { return Parent() || tellSite(key); }
-  using Site::propertyChanged;
 
   void setFont(FontPtr font);
   void setBackColor(Color color);

@@ -237,8 +237,8 @@ void QRNEdit::SetValueFormat(const std::string& format) {
 }
 
 void QRNEdit::SetSelection(std::int32_t StartSel, std::int32_t SelLength) {
-  if (editor_.kind() == ValueEditor::Kind::TextBox)
-    static_cast<host::TextBox*>(CurrentEditor())->select(StartSel, SelLength);
+  makeEditor();
+  if (editor_.textBox()) editor_.textBox()->select(StartSel, SelLength);
 }
 
 }  // namespace qrn

@@ -412,6 +412,7 @@ class QRNEdit final : public host::UserControl {
   double pictureWidth(const RowIcon& icon) const;
   std::int32_t iconWidth(const RowIcon& icon) const;
   std::int32_t measuredValueWidth() const;
+  double valueTextWidth(std::string_view text) const;
   double widestEntry() const;
   void forgetMeasure(std::int32_t Measures::*part);
   double overhead(double spacing) const;

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "diag/QRNErrors.h"
 #include "row/QRNEdit.h"
 #include "row/row_extras.h"
@@ -7,6 +9,18 @@ namespace qrn {
 namespace {
 
 constexpr double kEditorWidth = 100;
+
+/// Says that the editor is being made, until that is done or has failed.
+class Making {
+ public:
+  explicit Making(bool& making) : making_(making) { making_ = true; }
+  Making(const Making&) = delete;
+  Making& operator=(const Making&) = delete;
+  ~Making() { making_ = false; }
+
+ private:
+  bool& making_;
+};
 
 }  // namespace
 
@@ -48,14 +62,13 @@ void QRNEdit::switchEditor(qrnValueType type) {
   valueType_ = type;
   editor_.begin(kind);
   if (!editor_.exists()) return;
-  editorShown_ = true;  // as a control is born
+  editorShown_ = valueVisible_;
   if (hadEditor) {
     editor_.setForeColor(color);
     applyValueToolTip(toolTip);
   } else {
     valueWidth_ = kEditorWidth / pixelsPerUnit().x;
   }
-  // The height of a bit list depends on its entries, which only the control has.
   if (parts_ || kind == ValueEditor::Kind::BitList) makeEditor();
 }
 
@@ -70,12 +83,12 @@ void QRNEdit::removeEditor() {
 // Looks as it would if it had been there all the time, and needs as much room as before.
 void QRNEdit::makeEditor() {
   if (!editor_.exists() || editor_.frame()) return;
-  makingEditor_ = true;
-  if (ignoringErrors([&] { editor_.make(*this); }))
+  const auto make = [&] {
+    const Making making(makingEditor_);
+    editor_.make(*this);
     applySettings();
-  else
-    editor_.end();
-  makingEditor_ = false;
+  };
+  if (!ignoringErrors(make)) removeEditor();
 }
 
 void QRNEdit::childWindowMade(host::Control& child) {
@@ -95,8 +108,8 @@ void QRNEdit::applySettings() {
   applyEnabled();
   passFont();
   if (editor_.check()) editor_.check()->Check().SetBackColor(BackColor());
-  editor_.frame()->SetVisible(valueVisible_);
-  if (!editorShown_) editor_.inner()->SetVisible(false);
+  editor_.frame()->SetVisible(editorShown_);
+  editor_.inner()->SetVisible(editorShown_);
   if (toolTips_) applyValueToolTip(std::exchange(toolTips_->value, {}));
 }
 

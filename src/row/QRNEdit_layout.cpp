@@ -70,7 +70,7 @@ std::int32_t QRNEdit::GetMinValueWidth() const {
 std::int32_t QRNEdit::measuredValueWidth() const {
   using enum ValueEditor::Kind;
   switch (editor_.kind()) {
-    case TextBox: return roundedUp(TextWidth(editor_.text()) + textHeight());
+    case TextBox: return roundedUp(valueTextWidth(editor_.text()) + textHeight());
     case Check: return 2 * textHeight();
     case DropList:
     case BitList: return 2 * textHeight() + roundedUp(widestEntry());
@@ -78,10 +78,17 @@ std::int32_t QRNEdit::measuredValueWidth() const {
   }
 }
 
+// The editor has the row's font, unless a host has given it one of its own.
+double QRNEdit::valueTextWidth(std::string_view text) const {
+  const host::Editor* editor = editor_.inner();
+  if (!editor || editor->Font() == font()) return TextWidth(text);
+  return platform().metrics(*editor->Font()).advance(text) / pixelsPerUnit().x;
+}
+
 double QRNEdit::widestEntry() const {
   const host::ListEntries& list = *editor_.list();
   double widest = 0;
-  for (std::int32_t i = 0; i < list.ListCount(); ++i) widest = std::max(widest, TextWidth(list.List(i)));
+  for (std::int32_t i = 0; i < list.ListCount(); ++i) widest = std::max(widest, valueTextWidth(list.List(i)));
   return widest;
 }
 

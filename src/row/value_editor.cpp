@@ -1,5 +1,7 @@
 #include "row/value_editor.h"
 
+#include <utility>
+
 #include "host/prog_ids.h"
 
 namespace qrn {

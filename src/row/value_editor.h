@@ -13,7 +13,8 @@
 namespace qrn {
 
 /// The editor of a row. It becomes a control when somebody looks at it, since most rows of a large panel are
-/// never seen; until then what it would show is kept here.
+/// never seen; until then what it would show is kept here. Only a bit list, whose entries decide how high the
+/// row is, has to be made at once.
 class ValueEditor {
  public:
   enum class Kind : std::uint8_t { None, TextBox, Check, DropList, BitList, Array };

@@ -1,3 +1,5 @@
+#include "host/prog_ids.h"
+#include "platform/headless/recording_surface.h"
 #include "support/panel_fixture.h"
 
 namespace qrn::test {
@@ -155,6 +157,54 @@ TEST_F(UnseenRows, HaveAnEditorThatIsHiddenIfItWouldHaveBeen) {
   row(51).SetValueVisible(true);
   EXPECT_TRUE(row(50).CurrentEditor()->shown());
   EXPECT_TRUE(row(51).CurrentEditor()->shown());
+}
+
+TEST_F(UnseenRows, ShowAndHideTheirEditorWhenTheyAreLaidOutWhetherItIsThereOrNot) {
+  for (const std::int32_t position : {50, 51}) {
+    QRNEdit& unseen = row(position);
+    if (position == 51) unseen.CurrentEditor();
+    unseen.SetRedraw(false);
+    unseen.SetValueVisible(false);
+    EXPECT_TRUE(unseen.CurrentEditor()->Visible()) << position;
+    unseen.SetRedraw(true);
+    EXPECT_FALSE(unseen.CurrentEditor()->Visible()) << position;
+  }
+  for (const std::int32_t position : {60, 61}) {
+    QRNEdit& unseen = row(position);
+    unseen.SetValueType(qrnTypeArray);
+    unseen.SetRedraw(false);
+    unseen.SetValueVisible(false);
+    unseen.SetValueType(qrnTypeLong);
+    if (position == 61) unseen.CurrentEditor();
+    unseen.SetValueVisible(true);
+    unseen.SetRedraw(true);
+    EXPECT_TRUE(unseen.CurrentEditor()->Visible()) << position;
+  }
+}
+
+TEST_F(UnseenRows, GoWithoutAnEditorWhoseClassIsNotKnownAnyMore) {
+  row(50).SetValueType(qrnTypeBoolean);
+  row(50).SetValueToolTip("on or off");
+  EXPECT_TRUE(row(50).hasEditor());
+  host::setControlClasses({});
+  EXPECT_EQ(row(50).CurrentEditor(), nullptr);
+  registerControls();
+  EXPECT_FALSE(row(50).hasEditor());
+  EXPECT_EQ(row(50).GetMinValueWidth(), 0);
+  EXPECT_EQ(row(50).ValueToolTip(), "");
+  row(50).SetValueType(qrnTypeBoolean);
+  EXPECT_NE(row(50).CurrentEditor(), nullptr);
+}
+
+TEST_F(UnseenRows, AreMeasuredInTheFontThatTheirEditorHas) {
+  row(50).SetValue(Variant(1234));
+  const auto before = row(50).GetMinValueWidth();
+  const auto large = std::make_shared<host::Font>("Sans", 20);
+  static_cast<headless::FixedMetrics&>(platform.metrics(*large)).characterWidth = 11;
+  row(50).CurrentEditor()->SetFont(large);
+  EXPECT_EQ(row(50).GetMinValueWidth(), before + 4 * (11 - 6));
+  row(50).CurrentEditor()->SetFont(row(50).Font());
+  EXPECT_EQ(row(50).GetMinValueWidth(), before);
 }
 
 TEST_F(UnseenRows, KeepColourAndToolTipWhenTheyNeedAnotherEditorAndLoseThemWithoutOne) {

@@ -39,9 +39,8 @@ void QtPalettes::forget() {
 // Colours have to be resolved and made readable: editors that wish for the same are told from how they say
 // it.
 const QPalette& QtPalettes::of(const host::Editor& editor) {
-  constexpr std::size_t kMostWishes = 64;
   const qint64 application = QApplication::palette().cacheKey();
-  if (application != application_ || wishes_.size() >= kMostWishes) forget();
+  if (application != application_) forget();
   application_ = application;
   const std::type_info& type = typeid(editor);
   // A locked drop list has nothing to press and looks like a text.
@@ -63,6 +62,10 @@ const QPalette& QtPalettes::of(const host::Editor& editor) {
         known.back == wish.back && known.text == wish.text)
       return *known.palette;
   }
+  // The palettes outlive the wishes: pictures are kept for each of them.
+  constexpr std::size_t kMostWishes = 64, kMostPalettes = 256;
+  if (palettes_.size() >= kMostPalettes) forget();
+  if (wishes_.size() >= kMostWishes) wishes_.clear();
   wish.palette = &found(wish);
   wishes_.push_back(wish);
   return *wish.palette;

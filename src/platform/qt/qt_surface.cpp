@@ -226,8 +226,9 @@ void QtSurface::text(QPointF at, std::string_view text, QtFontMetrics& metrics, 
                      const std::optional<QRect>& within) {
   const QtGlyphs* const glyphs = wholeScale_ ? metrics.glyphs(text) : nullptr;
   if (glyphs) {
-    // In letters of another scale than 1 fonts put their edges elsewhere.
-    const double besides = 1, above = scale_ == 1 ? 0 : 1;
+    // In letters of another scale than 1, and in bold or slanted ones that it makes up, a font puts the edges
+    // elsewhere.
+    const double besides = 2, above = 1;
     const Rect ink = fromQt(glyphs->ink.translated(at).adjusted(-besides, -above, besides, above));
     if (!isNeeded(ink)) return;
     if (!within || contains(fromQt(*within), ink)) {
