@@ -67,7 +67,7 @@ def member(declaration, doc, section):
         return None
     head = declaration.replace(" = {}", "").split("{")[0].rstrip("; ")
     head = re.sub(r"/\*\w+\*/", "", head).removesuffix(" = 0")
-    function = re.fullmatch(r"(?:virtual )?(.*?[\s&*])(\w+)\((.*)\)( const)?( override)?", head)
+    function = re.fullmatch(r"(?:virtual )?(.*?[\s&*])(\w+)\((.*)\)( const)?( override| final)?", head)
     if not function:
         raise ValueError(f"can't read the declaration {declaration}")
     result, name, arguments, _, overrides = function.groups()

@@ -199,113 +199,71 @@ TEST_F(Surface, AFillOfTheColourThatIsThereAlreadyIsLeftOut) {
 }
 
 TEST_F(Surface, AFillCoversWhateverWasDrawnOnItsColour) {
+  using Draw = std::function<void(QtSurface&)>;
+  const Rect whole{0, 0, 20, 20};
   const host::Picture picture({{2, 2, std::vector<std::uint32_t>(4, 0xFF0000FF)}});
-  const host::Font font("DejaVu Sans", 9), underlined = [] {
-    host::Font made("DejaVu Sans", 9);
-    made.underline = true;
-    return made;
-  }();
+  host::Font font("DejaVu Sans", 9), underlined = font;
+  underlined.underline = true;
   constexpr host::Color kBlue = host::rgb(0, 0, 255);
-  const std::function<void(QtSurface&)> drawings[] = {
-      [&](QtSurface& s) {
+  const std::vector<Draw> drawings = {
+      [&](auto& s) {
         s.fill({6, 6, 3, 3}, kBlue);
       },
-      [&](QtSurface& s) {
-        s.fill({0, 0, 20, 20}, kBlue);
-      },
-      [&](QtSurface& s) {
+      [&](auto& s) { s.fill(whole, kBlue); },
+      [&](auto& s) {
         s.fill({6, 6, 3, 3}, kBlue, host::DrawMode::MergePen);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.line({0, 7}, {19, 7}, kBlue);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.line({7, 0}, {7, 19}, kBlue);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.line({2, 3}, {15, 12}, kBlue);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.frame({5, 5, 8, 8}, kBlue);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.frame({5, 5, 8, 8}, kBlue, kBlue, 2);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.text({4, 3}, "Ag", font, kBlue);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.text({4, 3}, "Ag", underlined, kBlue);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.picture({7, 7}, picture);
       },
-      [&](QtSurface& s) {
+      [&](auto& s) {
         s.focusRectangle({5, 5, 9, 9});
       },
   };
+  const Draw fill = [&](auto& s) { s.fill(whole, kRed); };
+  const auto inside = [&](const Draw& draw, int regions) -> Draw {
+    return [=](auto& s) {
+      for (int i = 0; i < regions; ++i) s.enter(whole);
+      draw(s);
+      for (int i = 0; i < regions; ++i) s.leave();
+    };
+  };
+  const auto redAfter = [&](double scale, const std::vector<Draw>& steps) {
+    const auto drawAll = [&](QtSurface& s) {
+      for (const Draw& step : steps) step(s);
+    };
+    return count(drawn(scale, drawAll), kRedPixel);
+  };
   for (const double scale : {1.0, 1.5, 2.0}) {
-    int which = 0;
-    for (const auto& draw : drawings) {
-      // In the region itself, in one inside it, in the one around it and in one beside it that overlaps.
-      const auto all = static_cast<int>(400 * scale * scale);
-      EXPECT_LT(count(drawn(scale,
-                            [&](QtSurface& s) {
-                              s.fill({0, 0, 20, 20}, kRed);
-                              draw(s);
-                            }),
-                      kRedPixel),
-                all)
-          << which;
-      EXPECT_EQ(count(drawn(scale,
-                            [&](QtSurface& s) {
-                              s.fill({0, 0, 20, 20}, kRed);
-                              draw(s);
-                              s.fill({0, 0, 20, 20}, kRed);
-                            }),
-                      kRedPixel),
-                all)
-          << which << " " << scale;
-      EXPECT_EQ(count(drawn(scale,
-                            [&](QtSurface& s) {
-                              s.fill({0, 0, 20, 20}, kRed);
-                              s.enter({0, 0, 20, 20});
-                              s.enter({0, 0, 20, 20});
-                              draw(s);
-                              s.leave();
-                              s.leave();
-                              s.fill({0, 0, 20, 20}, kRed);
-                            }),
-                      kRedPixel),
-                all)
-          << which << " " << scale;
-      EXPECT_EQ(count(drawn(scale,
-                            [&](QtSurface& s) {
-                              s.fill({0, 0, 20, 20}, kRed);
-                              draw(s);
-                              s.enter({0, 0, 20, 20});
-                              s.fill({0, 0, 20, 20}, kRed);
-                              s.leave();
-                            }),
-                      kRedPixel),
-                all)
-          << which << " " << scale;
-      EXPECT_EQ(count(drawn(scale,
-                            [&](QtSurface& s) {
-                              s.fill({0, 0, 20, 20}, kRed);
-                              s.enter({0, 0, 20, 20});
-                              draw(s);
-                              s.leave();
-                              s.enter({0, 0, 20, 20});
-                              s.enter({0, 0, 20, 20});
-                              s.fill({0, 0, 20, 20}, kRed);
-                              s.leave();
-                              s.leave();
-                            }),
-                      kRedPixel),
-                all)
-          << which << " " << scale;
-      ++which;
+    const auto all = static_cast<int>(400 * scale * scale);
+    for (std::size_t i = 0; i < drawings.size(); ++i) {
+      const Draw& draw = drawings[i];
+      EXPECT_LT(redAfter(scale, {fill, draw}), all) << i << " " << scale;
+      EXPECT_EQ(redAfter(scale, {fill, draw, fill}), all) << i << " " << scale;
+      EXPECT_EQ(redAfter(scale, {fill, inside(draw, 2), fill}), all) << i << " " << scale;
+      EXPECT_EQ(redAfter(scale, {fill, draw, inside(fill, 1)}), all) << i << " " << scale;
+      EXPECT_EQ(redAfter(scale, {fill, inside(draw, 1), inside(fill, 2)}), all) << i << " " << scale;
     }
   }
 }
@@ -323,30 +281,38 @@ TEST_F(Surface, AFillCoversTheLastOfManyThingsThatWereDrawn) {
   EXPECT_EQ(count(image, kRedPixel), 400);
 }
 
-// Most texts are drawn without a clip as their glyphs are known to lie inside.
+// Most texts are drawn without a clip as their glyphs are known to lie inside; where a family has no bold or
+// slanted letters they are made up, and reach further.
 TEST_F(Surface, LettersAreCutOffAtTheEdgesOfTheirRegion) {
-  for (const double scale : {1.0, 1.5, 2.0}) {
+  std::vector<host::Font> fonts;
+  for (const char* family : {"DejaVu Sans", "DejaVu Sans Mono"}) {
     for (const double size : {8.25, 9.0, 14.0}) {
-      for (const bool italic : {false, true}) {
-        const host::Font font("DejaVu Sans", size, false, italic);
-        for (int c = 0x21; c < 0x180; c += c == 0x7E ? 0x23 : 1) {
-          std::string letter;
-          text::append(letter, static_cast<char32_t>(c));
-          const double width = platform.metrics(font).advance(letter);
-          for (const double inset : {0.0, 1.0, 2.0}) {
-            const Rect region{4 + inset, 3 + inset, std::round(width) - 2 * inset, 13 - 2 * inset};
-            const QImage image = drawn(scale, [&](QtSurface& s) {
-              s.enter(region);
-              s.text({-inset, -inset}, letter, font, host::rgb(0, 0, 0));
-              s.leave();
-              // All that may be black lies in there.
-              s.fill(region, host::rgb(255, 255, 255));
-            });
-            ASSERT_EQ(count(image, kWhitePixel), image.width() * image.height())
-                << letter << " " << scale << " " << size << " " << italic << " " << inset;
-          }
-        }
+      for (const bool bold : {false, true}) {
+        for (const bool italic : {false, true}) fonts.emplace_back(family, size, bold, italic);
       }
+    }
+  }
+  const auto checkLetter = [&](const host::Font& font, double scale, char32_t c) {
+    std::string letter;
+    text::append(letter, c);
+    const double width = platform.metrics(font).advance(letter);
+    for (const double inset : {0.0, 1.0, 2.0}) {
+      const Rect region{4 + inset, 3 + inset, std::round(width) - 2 * inset, 13 - 2 * inset};
+      const QImage image = drawn(scale, [&](QtSurface& s) {
+        s.enter(region);
+        s.text({-inset, -inset}, letter, font, host::rgb(0, 0, 0));
+        s.leave();
+        // All that may be black lies in there.
+        s.fill(region, host::rgb(255, 255, 255));
+      });
+      ASSERT_EQ(count(image, kWhitePixel), image.width() * image.height())
+          << letter << " " << font.family << " " << font.size << " " << font.bold << font.italic << " "
+          << scale << " " << inset;
+    }
+  };
+  for (const host::Font& font : fonts) {
+    for (const double scale : {1.0, 1.5, 2.0}) {
+      for (char32_t c = 0x21; c < 0x180; c += c == 0x7E ? 0x23 : 1) checkLetter(font, scale, c);
     }
   }
 }
