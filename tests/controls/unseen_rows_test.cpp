@@ -182,6 +182,16 @@ TEST_F(UnseenRows, ShowAndHideTheirEditorWhenTheyAreLaidOutWhetherItIsThereOrNot
   }
 }
 
+TEST_F(UnseenRows, HideANewEditorAtOnceInsteadOfAHiddenOne) {
+  paint();
+  for (const std::int32_t position : {1, 50}) {
+    row(position).SetValueVisible(false);
+    row(position).SetRedraw(false);
+    row(position).SetValueType(qrnTypeBoolean);
+    EXPECT_FALSE(row(position).CurrentEditor()->Visible()) << position;
+  }
+}
+
 TEST_F(UnseenRows, GoWithoutAnEditorWhoseClassIsNotKnownAnyMore) {
   row(50).SetValueType(qrnTypeBoolean);
   row(50).SetValueToolTip("on or off");
