@@ -452,6 +452,7 @@ class QRNEdit final : public host::UserControl {
   bool redraw_ = false;
   bool editorShown_ = true;  // the last that the editor was told
   bool makingEditor_ = false;
+  bool editorLeaves_ = false;  // the focus is being taken from it before it goes
 
   RowText label_;
   RowText unit_;
@@ -471,7 +472,7 @@ class QRNEdit final : public host::UserControl {
   std::int32_t alignment_ = 0;
   std::int32_t valueAlignment_ = 0;
   std::int32_t valueMaxLength_ = 65535;
-  std::int8_t changeDepth_ = 0;  // above 0 while a change of the editor is being handled
+  bool handlingChange_ = false;  // of the editor
   bool locked_ = false;
   bool valueUpperCase_ = false;
   bool password_ = false;

@@ -1,5 +1,6 @@
 #include <utility>
 
+#include "base/scoped_flag.h"
 #include "diag/QRNErrors.h"
 #include "row/QRNEdit.h"
 #include "row/row_extras.h"
@@ -9,18 +10,6 @@ namespace qrn {
 namespace {
 
 constexpr double kEditorWidth = 100;
-
-/// Says that the editor is being made, until that is done or has failed.
-class Making {
- public:
-  explicit Making(bool& making) : making_(making) { making_ = true; }
-  Making(const Making&) = delete;
-  Making& operator=(const Making&) = delete;
-  ~Making() { making_ = false; }
-
- private:
-  bool& making_;
-};
 
 }  // namespace
 
@@ -45,8 +34,14 @@ bool QRNEdit::takeFocusFromEditor(qrnValueType nextType) {
   const ValueEditor::Kind next = ValueEditor::kindFor(nextType);
   if (!editor || next == editor_.kind() || !editor->hasFocus()) return false;
   const bool goesOn = next != ValueEditor::Kind::None && next != ValueEditor::Kind::Array;
-  input().setFocus(goesOn ? this : nullptr);
-  return goesOn;
+  if (goesOn) {
+    input().setFocus(this);
+    return true;
+  }
+  // Whoever hears of that can't give it back to an editor that goes, and may remove the row.
+  const ScopedFlag leaving(*this, &QRNEdit::editorLeaves_);
+  input().setFocus(nullptr);
+  return false;
 }
 
 void QRNEdit::switchEditor(qrnValueType type) {
@@ -84,7 +79,7 @@ void QRNEdit::removeEditor() {
 void QRNEdit::makeEditor() {
   if (!editor_.exists() || editor_.frame()) return;
   const auto make = [&] {
-    const Making making(makingEditor_);
+    const ScopedFlag making(*this, &QRNEdit::makingEditor_);
     editor_.make(*this);
     applySettings();
   };

@@ -1,3 +1,4 @@
+#include "base/scoped_flag.h"
 #include "diag/DebugTrace.h"
 #include "row/QRNEdit.h"
 #include "row/row_extras.h"
@@ -9,18 +10,6 @@ namespace {
 
 constexpr std::int32_t kHoverInterval = 70;  // milliseconds
 constexpr std::int32_t kTraceLevel = 0;
-
-/// Counts a change of the editor while it is being handled, also when that fails.
-class HandlingChange {
- public:
-  explicit HandlingChange(std::int8_t& depth) : depth_(depth) { ++depth_; }
-  HandlingChange(const HandlingChange&) = delete;
-  HandlingChange& operator=(const HandlingChange&) = delete;
-  ~HandlingChange() { --depth_; }
-
- private:
-  std::int8_t& depth_;
-};
 
 }  // namespace
 
@@ -82,16 +71,16 @@ void QRNEdit::lostFocus() {
 }
 
 host::Control* QRNEdit::focusTarget() {
-  host::Editor* editor = valueVisible_ ? CurrentEditor() : nullptr;
+  host::Editor* editor = valueVisible_ && !editorLeaves_ ? CurrentEditor() : nullptr;
   return editor && editor->acceptsFocus() ? editor : nullptr;
 }
 
 // ---- what the editor reports ----
 
 void QRNEdit::childChanged(host::Control& child) {
-  if (changeDepth_ > 0) return;
+  if (handlingChange_) return;
   if (&child == editor_.textBox() && valueType_ == qrnTypeDouble) {
-    const HandlingChange handling(changeDepth_);
+    const ScopedFlag handling(*this, &QRNEdit::handlingChange_);
     correctDecimalSeparator();
   }
   raise(&RowEvents::Change, "Change");
@@ -101,12 +90,12 @@ void QRNEdit::childClicked(host::Control&) { raise(&RowEvents::Click, "Click"); 
 
 void QRNEdit::childItemChecked(host::Control& child, std::int16_t item) {
   QRNBitList* const list = editor_.bitList();
-  if (changeDepth_ > 0 || !list || &child != &list->List()) return;
+  if (handlingChange_ || !list || &child != &list->List()) return;
   if (!locked_) {
     raise(&RowEvents::ItemCheck, "ItemCheck", item);
     return;
   }
-  const HandlingChange handling(changeDepth_);
+  const ScopedFlag handling(*this, &QRNEdit::handlingChange_);
   const auto* bits = displayBaseline_.get<std::string>();
   const bool accepted = bits && BitStringGet(*bits, item);
   ignoringErrors([&] { list->List().SetSelected(item, accepted); });

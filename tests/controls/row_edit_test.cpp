@@ -90,6 +90,22 @@ TEST_F(RowFocus, EndsTheEditOfARowThatLosesItsEditor) {
   EXPECT_EQ(raised(), Events{"StartEdit"});
 }
 
+TEST_F(RowFocus, DoesNotComeBackToAnEditorThatIsAboutToGo) {
+  int told = 0;
+  const auto focused = row(1).ObjectEvent.connect(
+      [&](std::string_view name, host::EventArgs) { told += name == "GotFocus" ? 1 : 0; });
+  user->focuses(row(1));
+  const auto back = row(1).events().EndEdit.connect([&](bool&) { row(1).SetFocus(); });
+  told = 0;
+  row(1).SetValueType(qrnTypeArray);
+  EXPECT_FALSE(row(1).hasFocus());
+  EXPECT_EQ(told, 0);
+  row(1).SetValueType(qrnTypeString);
+  user->focuses(row(1));
+  EXPECT_TRUE(row(1).hasFocus());
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(RowFocus, EndsTheEditOfAnEditorThatIsHidden) {
   row(1).SetValue(Variant("a"));
   user->focuses(row(1));
