@@ -40,6 +40,15 @@ class EventBase {
  protected:
   void append(EventSlot& slot);
 
+  /// A listener while it is being called.
+  struct Kept {
+    explicit Kept(EventSlot& one) : slot(one) { slot.keep(); }
+    Kept(const Kept&) = delete;
+    Kept& operator=(const Kept&) = delete;
+    ~Kept() { slot.letGo(); }
+    EventSlot& slot;
+  };
+
   /// The listeners of one raise, kept until it is over.
   class Snapshot {
    public:
@@ -128,6 +137,11 @@ class Event : public detail::EventBase {
 
   void raise(Args... args) const {
     if (!first_) return;
+    if (!first_->next) {
+      const Kept only(*first_);
+      static_cast<Slot&>(only.slot).listener(args...);
+      return;
+    }
     const Snapshot listeners(first_);
     for (std::size_t i = 0; i < listeners.count(); ++i) {
       if (listeners.at(i)->event) static_cast<Slot*>(listeners.at(i))->listener(args...);

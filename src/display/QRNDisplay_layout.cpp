@@ -65,8 +65,8 @@ void QRNDisplay::LayoutControls(bool bAdjustParamsOnly) {
   if (bAdjustParamsOnly && (columnsFit_ || !columns_.anyAutomatic())) return;
   ColumnFit fit(columns_);
   if (columns_.anyAutomatic()) {
-    for (const PanelItemPtr& item : *items_) {
-      const QRNEdit* row = item->row();
+    for (std::int32_t position = 1; position <= items_->Count(); ++position) {
+      const QRNEdit* row = items_->at(position).row();
       if (!row) continue;
       if (bAdjustParamsOnly)
         fit.add(minimumOf(*row), widthsOf(*row));

@@ -21,7 +21,7 @@ const std::string& ContainerControl::partName(std::string_view name) {
 }
 
 void ContainerControl::put(Control& control, UserControl& parent, const std::string& name) {
-  control.name_ = &name;
+  control.setName(name);
   control.parent_ = &parent;
   control.container_ = this;
   contained_.push_back(&control);

@@ -89,15 +89,14 @@ void Control::Move(double left, double top, double width, double height) {
   const Rect before = bounds();
   if (target == before) return;
   if (container_) container_->strips_.reset();
-  if (container_ && container_->rearranging_) {
-    bounds_ = target;
-    moved(before);
-    return;
-  }
-  invalidate();
+  // Nobody, where many move at once, or where nobody looks yet.
+  const bool toBeTold = container_ ? container_->rearranging_ == 0 : peer() != nullptr;
+  if (toBeTold) invalidate();
   bounds_ = target;
-  tellPlace();
-  invalidate();
+  if (toBeTold) {
+    tellPlace();
+    invalidate();
+  }
   moved(before);
 }
 
@@ -214,6 +213,8 @@ bool Control::covered() const {
 Point Control::fromSurface(Point at) const { return at - onSurface().topLeft(); }
 
 void Control::invalidate() { invalidate({{}, {}, 1e9, 1e9}); }
+
+void Control::setName(const std::string& name) { name_ = &name; }
 
 // The control whose native widget shows this one: itself, one around it, or none while nothing is on screen.
 const Control* Control::paintedBy() const {

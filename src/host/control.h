@@ -215,6 +215,8 @@ class Control : public Object {
 
  private:
   const Control* paintedBy() const;
+  /// By a name that lives as long as the control.
+  void setName(const std::string& name);
 
   // What few controls have.
   struct Rare {

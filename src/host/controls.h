@@ -37,6 +37,8 @@ class Controls {
 
  private:
   bool ownPart(std::string_view name) const;
+  /// Answers the name that the control had.
+  std::string end(std::int32_t position);
 
   UserControl& owner_;
   KeyedList<Owned<Control>> list_;

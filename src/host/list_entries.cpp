@@ -24,7 +24,7 @@ void ListEntries::AddItem(std::string_view text) {
   // In small steps: most lists are short, and a panel has many of them.
   if (entries_.size() == entries_.capacity())
     entries_.reserve(std::max<std::size_t>(4, entries_.size() + entries_.size() / 4 + 1));
-  entries_.push_back({std::string(text)});
+  entries_.emplace_back().text = text;
   newIndex_ = static_cast<std::int16_t>(ListCount() - 1);
   entriesChanged();
 }

@@ -1,5 +1,7 @@
 #include "host/prog_ids.h"
 
+#include <array>
+
 #include "base/text.h"
 #include "host/check_box.h"
 #include "host/combo_box.h"
@@ -31,8 +33,9 @@ constexpr ProgId kStandardClasses[] = {
 };
 
 std::span<const ProgId> classesAbove;
+thread_local std::array<const ProgId*, 32> lastFound{};
 
-const ProgId* find(std::string_view progId) {
+const ProgId* search(std::string_view progId) {
   for (const auto list : {std::span<const ProgId>(kStandardClasses), classesAbove}) {
     for (const ProgId& known : list) {
       if (text::sameName(known.name, progId)) return &known;
@@ -41,9 +44,19 @@ const ProgId* find(std::string_view progId) {
   return nullptr;
 }
 
+// A panel asks for the same few again and again; their names differ in length.
+const ProgId* find(std::string_view progId) {
+  const ProgId*& last = lastFound[progId.size() % lastFound.size()];
+  if (!last || !text::sameName(last->name, progId)) last = search(progId);
+  return last;
+}
+
 }  // namespace
 
-void setControlClasses(std::span<const ProgId> classes) { classesAbove = classes; }
+void setControlClasses(std::span<const ProgId> classes) {
+  classesAbove = classes;
+  lastFound.fill(nullptr);
+}
 std::span<const ProgId> controlClasses() { return classesAbove; }
 
 Owned<Control> createByProgId(std::string_view progId) {

@@ -58,6 +58,11 @@ double UserControl::TextHeight(std::string_view) const { return fontMetrics().he
 Ambient UserControl::ambient() const { return {userMode(), font_, backColor_, foreColor_}; }
 
 void UserControl::initProperties() {
+  if (const UserControl* around = Parent()) {
+    backColor_ = around->backColor_;
+    foreColor_ = around->foreColor_;
+    return;
+  }
   const Ambient ambient = site_->ambient();
   backColor_ = ambient.backColor;
   foreColor_ = ambient.foreColor;
@@ -193,9 +198,15 @@ void Controls::remove(std::string_view name) {
   const auto* entry = list_.find(name);
   if (!entry) raiseRunTimeError(kControlNotFound, owner_.typeName());
   const WeakRef<Control> owner(&owner_);
-  const auto gone = list_.takeEntry(entry->position);  // with its name, which may be the one given
-  gone->value.reset();
-  if (owner) owner_.controlRemoved(gone->key);
+  const std::string gone = end(entry->position);  // the name given may have been the control's own
+  if (owner) owner_.controlRemoved(gone);
+}
+
+std::string Controls::end(std::int32_t position) {
+  auto gone = list_.takeEntry(position);
+  gone.value->setName(gone.key);
+  gone.value.reset();
+  return std::move(gone.key);
 }
 
 Control* Controls::find(std::string_view name) const {
@@ -204,7 +215,7 @@ Control* Controls::find(std::string_view name) const {
 }
 
 void Controls::clear() {
-  while (list_.count() > 0) const auto gone = list_.takeEntry(list_.count());
+  while (list_.count() > 0) end(list_.count());
 }
 
 }  // namespace qrn::host

@@ -26,7 +26,6 @@ class UserControl : public ContainerControl, public Site {
   virtual const ClassTable& classTable() const = 0;
 
   Site& site() const { return *site_; }
-  bool userMode() const { return site_->ambient().userMode; }
   Controls& controls();
   Input& input();
 
@@ -40,7 +39,7 @@ class UserControl : public ContainerControl, public Site {
   Color backColor() const { return backColor_; }
   Color foreColor() const { return foreColor_; }
   std::int16_t scaleMode() const { return scaleMode_; }
-  Point pixelsPerUnit() const override;
+  Point pixelsPerUnit() const final;
 
   /// Saves the properties that differ from their defaults.
   virtual void writeProperties(PropertyBag& bag) const;
@@ -48,6 +47,7 @@ class UserControl : public ContainerControl, public Site {
   // A child's site is its user control, which has nothing to do with its properties.
   Platform& platform() const override { return site_->platform(); }
   Ambient ambient() const override;
+  bool userMode() const final { return site_->userMode(); }
   void propertyChanged(UserControl& /*child*/, std::string_view /*key*/) final {}
 
   UserControl* asUserControl() override { return this; }

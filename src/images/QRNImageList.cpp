@@ -1,5 +1,6 @@
 #include "images/QRNImageList.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "host/class_table.h"
@@ -9,27 +10,34 @@
 namespace qrn {
 
 QRNImageList::QRNImageList() {
-  for (std::int32_t id = 0; id < kBuiltInPictureCount; ++id) {
-    images_[id] = builtInPicture(static_cast<qrnImageId>(id));
-  }
+  images_.reserve(kBuiltInPictureCount);
+  for (std::int32_t id = 0; id < kBuiltInPictureCount; ++id)
+    images_.push_back({id, builtInPicture(static_cast<qrnImageId>(id))});
+}
+
+std::vector<QRNImageList::Numbered>::const_iterator QRNImageList::from(std::int32_t id) const {
+  if (const auto place = static_cast<std::uint32_t>(id); place < images_.size() && images_[place].id == id)
+    return images_.begin() + id;
+  const auto isBefore = [](const Numbered& one, std::int32_t wanted) { return one.id < wanted; };
+  return std::lower_bound(images_.begin(), images_.end(), id, isBefore);
 }
 
 host::PicturePtr QRNImageList::Image(qrnImageId ImageId) const {
-  const auto found = images_.find(ImageId);
-  if (found == images_.end()) raiseRunTimeError(kControlArrayElementMissing, typeName());
-  return found->second;
+  const auto found = from(ImageId);
+  if (found == images_.end() || found->id != ImageId)
+    raiseRunTimeError(kControlArrayElementMissing, typeName());
+  return found->picture;
 }
 
 void QRNImageList::SetImage(qrnImageId ImageId, host::PicturePtr picture) {
-  if (picture)
-    images_[ImageId] = std::move(picture);
-  else
-    images_.erase(ImageId);
+  auto at = from(ImageId);
+  if (at != images_.end() && at->id == ImageId) at = images_.erase(at);
+  if (picture) images_.insert(at, {ImageId, std::move(picture)});
 }
 
 qrnImageId QRNImageList::GetNextFreeImageIndex() const {
   if (images_.empty()) return qrnImageBlank;
-  const std::int32_t highest = images_.rbegin()->first;
+  const std::int32_t highest = images_.back().id;
   if (highest == std::numeric_limits<std::int32_t>::max()) raiseRunTimeError(kOverflow, typeName());
   return static_cast<qrnImageId>(highest + 1);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <map>
+#include <cstdint>
+#include <vector>
 
 #include "enums/enumerations.h"
 #include "host/picture.h"
@@ -26,7 +27,14 @@ class QRNImageList final : public host::UserControl {
   void paint(host::Surface& surface, Size size) override;
 
  private:
-  std::map<std::int32_t, host::PicturePtr> images_;
+  struct Numbered {
+    std::int32_t id;
+    host::PicturePtr picture;
+  };
+  /// The first from a number on.
+  std::vector<Numbered>::const_iterator from(std::int32_t id) const;
+
+  std::vector<Numbered> images_;  // by number, most of them where it says
 };
 
 }  // namespace qrn

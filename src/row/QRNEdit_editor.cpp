@@ -53,7 +53,7 @@ void QRNEdit::switchEditor(qrnValueType type) {
   const bool hadEditor = editor_.exists();
   const host::Color color = ValueForeColor();
   const std::string toolTip = ValueToolTip();
-  removeEditor();
+  if (hadEditor) removeEditor();
   valueType_ = type;
   editor_.begin(kind);
   if (!editor_.exists()) return;
@@ -63,6 +63,7 @@ void QRNEdit::switchEditor(qrnValueType type) {
     applyValueToolTip(toolTip);
   } else {
     valueWidth_ = kEditorWidth / pixelsPerUnit().x;
+    forgetMeasure(&Measures::value);
   }
   if (parts_ || kind == ValueEditor::Kind::BitList) makeEditor();
 }

@@ -104,12 +104,14 @@ std::int32_t QRNEdit::widthBesideParts(std::int32_t spacing) const { return near
 
 // The icons, and a spacing between any two parts; in doubles, as a spacing may be as large as a Long.
 double QRNEdit::overhead(double spacing) const {
-  double width = -spacing;
+  double icons = 0;
+  int parts = labelVisible_ + valueVisible_ + unitVisible_;
   for (const RowIcon* icon : {&icon1_, &icon2_}) {
-    if (icon->visible && icon->column >= 1) width += iconWidth(*icon) + spacing;
+    if (!icon->visible || icon->column < 1) continue;
+    icons += iconWidth(*icon);
+    ++parts;
   }
-  for (const bool visible : {labelVisible_, valueVisible_, unitVisible_}) width += visible ? spacing : 0;
-  return width;
+  return icons + (parts - 1) * spacing;
 }
 
 // Hiding the focused editor ends the edit, and who hears of that may do anything: answers whether the row is

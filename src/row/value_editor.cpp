@@ -46,9 +46,8 @@ Kind ValueEditor::kindFor(qrnValueType type) {
 
 void ValueEditor::begin(Kind kind) {
   const std::string_view progId = classOf(kind).progId;
-  if (!progId.empty() && !host::isControlClass(progId)) return;
-  kind_ = kind;
-  if (kind == Kind::DropList) entries_ = std::make_unique<Entries>();
+  kind_ = progId.empty() || host::isControlClass(progId) ? kind : Kind::None;
+  if (kind_ == Kind::DropList) entries_ = std::make_unique<Entries>();
 }
 
 host::Owned<host::Control> ValueEditor::end() {

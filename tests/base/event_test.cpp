@@ -83,6 +83,19 @@ TEST_F(Events, AListenerThatDisconnectsItselfIsCalledOnceAndStaysAliveUntilItRet
   EXPECT_EQ(watch.use_count(), 1);
 }
 
+TEST_F(Events, TheirOnlyListenerMayDisconnectItselfAndDestroyThem) {
+  Connection own;
+  const auto kept = std::make_shared<std::string>("captured");
+  own = event->connect([this, &own, shared = kept] {
+    own.disconnect();
+    event.reset();
+    calls.push_back(*shared);
+  });
+  event->raise();
+  EXPECT_EQ(calls, (Calls{"captured"}));
+  EXPECT_EQ(kept.use_count(), 1);
+}
+
 TEST_F(Events, AListenerThatDisconnectsALaterOneSilencesItAtOnce) {
   Connection b;
   const auto a = event->connect([&] {

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <map>
+#include <memory>
+#include <vector>
+
 #include "controls/raised.h"
 #include "images/QRNImageList.h"
 #include "images/built_in_pictures.h"
@@ -62,6 +66,26 @@ TEST_F(ImageList, APictureThatSomebodyKeepsOutlivesItsPlace) {
   const host::PicturePtr kept = list->Image(qrnImageFolder);
   list->SetImage(qrnImageFolder, nullptr);
   EXPECT_EQ(kept, builtInPicture(qrnImageFolder));
+}
+
+TEST_F(ImageList, WhateverNumbersComeAndGoTheOthersKeepTheirPictures) {
+  std::map<std::int32_t, host::PicturePtr> expected;
+  for (std::int32_t id = 0; id <= qrnImageInformation; ++id) expected[id] = builtInPicture(number(id));
+  for (const std::int32_t id : {-3, 100, 7, 3, -3, 18, 0, 40}) {
+    if (expected.erase(id) > 0) {
+      list->SetImage(number(id), nullptr);
+    } else {
+      expected[id] = std::make_shared<host::Picture>(std::vector<host::Picture::Bitmap>());
+      list->SetImage(number(id), expected[id]);
+    }
+    for (std::int32_t asked = -5; asked <= 105; ++asked) {
+      const auto known = expected.find(asked);
+      if (known != expected.end())
+        EXPECT_EQ(list->Image(number(asked)), known->second) << asked;
+      else
+        EXPECT_EQ(raisedBy([&] { list->Image(number(asked)); }).number, kControlArrayElementMissing) << asked;
+    }
+  }
 }
 
 TEST_F(ImageList, NothingAtAFreeNumberChangesNothing) {

@@ -153,6 +153,21 @@ TEST_F(LifeCycles, LetAParentRemoveItsChildrenWhenItTerminates) {
                             "parent destroyed"}));
 }
 
+TEST_F(LifeCycles, LeaveAChildItsNameToTheEnd) {
+  const auto noteName = [this](Living& self, std::string_view step) {
+    if (step == "terminate" || step == "hide") diary.note(self.Name());
+  };
+  auto parent = living("parent");
+  host::LifeCycle::start(*parent, site, nullptr);
+  addTo(*parent, living("first", noteName), "a name that is longer than most");
+  addTo(*parent, living("second", noteName), "short");
+  heard();
+  parent->controls().remove("a name that is longer than most");
+  parent->controls().clear();
+  EXPECT_EQ(heard(), (Heard{"first terminate, children 0", "a name that is longer than most",
+                            "first destroyed", "second terminate, children 0", "short", "second destroyed"}));
+}
+
 TEST_F(LifeCycles, EndAControlThatFailsInAnyStepOfItsStartAndLeaveNothingBehind) {
   for (const std::string_view failing : {"initialize", "initProperties", "resize", "show"}) {
     const auto fails = [failing](Living&, std::string_view step) {

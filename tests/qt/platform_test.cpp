@@ -134,9 +134,12 @@ TEST_F(Platform, WidthsAreThoseOfShapedText) {
     const QFontMetricsF exact(toQFont(font));
     for (const char* text : {"", "Damping", "AVATAR To. Wa", "office flow", "\u00b0C \u00b5m",
                              "\u03a9 \u4e2d", "1.234,5 %", "tab\there", "broken \xff byte"}) {
-      EXPECT_NEAR(platform.metrics(font).advance(text), exact.horizontalAdvance(QString::fromUtf8(text)),
-                  0.01)
-          << text << " " << size;
+      // When its letters are not known yet, and when they are.
+      for (int i = 0; i < 2; ++i) {
+        EXPECT_NEAR(platform.metrics(font).advance(text), exact.horizontalAdvance(QString::fromUtf8(text)),
+                    0.01)
+            << text << " " << size;
+      }
     }
   }
 }

@@ -19,12 +19,10 @@ void fill(List& list, int count) {
 /// Keys in order; a wrong position shows up in place of its key.
 std::vector<std::string> keysOf(const List& list) {
   std::vector<std::string> keys;
-  std::int32_t expected = 1;
-  for (const auto& entry : list) {
-    keys.push_back(entry->position == expected ? entry->key
-                                               : entry->key + " is at " + std::to_string(entry->position));
-    EXPECT_EQ(&list.at(expected), entry.get());
-    ++expected;
+  for (std::int32_t expected = 1; expected <= list.count(); ++expected) {
+    const List::Entry& entry = list.at(expected);
+    keys.push_back(entry.position == expected ? entry.key
+                                              : entry.key + " is at " + std::to_string(entry.position));
   }
   return keys;
 }

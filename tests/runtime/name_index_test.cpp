@@ -7,13 +7,10 @@
 #include <random>
 #include <string>
 
+#include "base/text.h"
+
 namespace qrn {
 namespace {
-
-struct Named {
-  std::string key;
-  std::uint32_t hash;
-};
 
 // Few different hashes, so that most of the names lie away from home.
 std::uint32_t crowded(const std::string& name) {
@@ -23,16 +20,16 @@ std::uint32_t crowded(const std::string& name) {
 TEST(ANameIndex, KnowsWhatHasComeAndNotGoneHoweverCrowdedItIs) {
   for (unsigned seed = 1; seed <= 20; ++seed) {
     std::mt19937 random(seed);
-    NameIndex<Named> index;
-    std::map<std::string, std::unique_ptr<Named>> known;
+    NameIndex index;
+    std::map<std::string, std::unique_ptr<KeyedEntry>> known;
     for (int step = 0; step < 500; ++step) {
       const std::string name = "n" + std::to_string(random() % 60);
       if (auto found = known.find(name); found != known.end()) {
         index.erase(*found->second);
         known.erase(found);
       } else {
-        auto entry = std::make_unique<Named>(Named{name, crowded(name)});
-        index.insert(*entry);
+        auto entry = std::make_unique<KeyedEntry>(KeyedEntry{name, crowded(name)});
+        ASSERT_TRUE(index.insert(*entry));
         known.emplace(name, std::move(entry));
       }
       ASSERT_EQ(index.empty(), known.empty()) << seed;
@@ -48,10 +45,13 @@ TEST(ANameIndex, KnowsWhatHasComeAndNotGoneHoweverCrowdedItIs) {
 }
 
 TEST(ANameIndex, TakesNoAccountOfTheCaseOfLetters) {
-  Named entry{"Pressure", 3};
-  NameIndex<Named> index;
+  KeyedEntry entry{"Pressure", 3};
+  NameIndex index;
   EXPECT_EQ(index.find(3, "pressure"), nullptr);
   index.insert(entry);
+  EXPECT_EQ(index.find(3, "PRESSURE"), &entry);
+  KeyedEntry other{"pressurE", 3};
+  EXPECT_FALSE(index.insert(other));
   EXPECT_EQ(index.find(3, "PRESSURE"), &entry);
   EXPECT_EQ(index.find(3, "PRESSURES"), nullptr);
 }

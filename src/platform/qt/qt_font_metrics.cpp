@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <algorithm>
+#include <cmath>
 
 #include "base/text.h"
 #include "platform/qt/qt_text.h"
@@ -34,7 +35,8 @@ QFont toQFont(const host::Font& font) {
   return result;
 }
 
-QtFontMetrics::QtFontMetrics(const host::Font& font) : font_(toQFont(font)), shaper_(font_) {
+QtFontMetrics::QtFontMetrics(const host::Font& font)
+    : font_(toQFont(font)), shaper_(font_), added_(kCodes * kCodes, kUnknownStep) {
   const QFontMetrics whole(font_);
   height_ = whole.height();
   ascent_ = whole.ascent();
@@ -75,43 +77,39 @@ double QtFontMetrics::kerning(unsigned char first, unsigned char second) {
 }
 
 double QtFontMetrics::advance(std::string_view text) {
-  if (const std::optional<double> plain = plainAdvance(text)) return *plain;
+  std::int64_t width = 0;
+  std::size_t before = kNotPlain;
+  for (const char c : text) {
+    const std::size_t code = plainCode(static_cast<unsigned char>(c));
+    width += added_[before * kCodes + code];
+    before = code;
+  }
+  // Pairs that move together make it a little less.
+  return width < kUnknownStep / 2 ? static_cast<double>(width) / kSteps : learned(text);
+}
+
+// Letter by letter, so that plain texts like it will be in the table. Pairs that may be joined never are.
+double QtFontMetrics::learned(std::string_view text) {
   double width = 0;
   char32_t before = 0;
   for (std::size_t at = 0; at < text.size();) {
     const char32_t c = text::next(text, at);
     if (c < 0x20 || c >= kLetters || mayJoin(before, c)) return shaped(text);
-    if (before != 0) width += kerning(static_cast<unsigned char>(before), static_cast<unsigned char>(c));
-    width += letter(static_cast<unsigned char>(c));
+    const auto second = static_cast<unsigned char>(c), first = static_cast<unsigned char>(before);
+    const double added = letter(second) + (before != 0 ? kerning(first, second) : 0);
+    keep(first, second, added);
+    width += added;
     before = c;
   }
   return width;
 }
 
-// Most texts are plain, and their few pairs lie close together. Pairs that may be joined stay unknown there.
-std::optional<double> QtFontMetrics::plainAdvance(std::string_view text) {
-  if (plainPairs_.empty()) plainPairs_.assign(kPlain * kPlain, kUnknown);
-  if (text.empty()) return 0;
-  const auto plain = [&](std::size_t at) {
-    return static_cast<std::size_t>(static_cast<unsigned char>(text[at])) - kFirstPlain;
-  };
-  std::size_t before = plain(0);
-  if (before >= kPlain) return std::nullopt;
-  double width = letter(static_cast<unsigned char>(text[0]));
-  for (std::size_t at = 1; at < text.size(); ++at) {
-    const std::size_t code = plain(at);
-    if (code >= kPlain) return std::nullopt;
-    float& added = plainPairs_[before * kPlain + code];
-    if (added == kUnknown) {
-      const auto first = static_cast<unsigned char>(text[at - 1]),
-                 second = static_cast<unsigned char>(text[at]);
-      if (mayJoin(first, second)) return std::nullopt;
-      added = static_cast<float>(kerning(first, second) + letter(second));
-    }
-    width += static_cast<double>(added);
-    before = code;
-  }
-  return width;
+void QtFontMetrics::keep(unsigned char first, unsigned char second, double added) {
+  const std::size_t before = plainCode(first), code = plainCode(second);
+  const double steps = added * kSteps;
+  const bool behindPlain = first == 0 || before != kNotPlain;
+  if (code == kNotPlain || !behindPlain || steps != std::rint(steps)) return;
+  added_[before * kCodes + code] = static_cast<std::int32_t>(steps);
 }
 
 const QtFontMetrics::Glyph& QtFontMetrics::glyph(unsigned char c) {

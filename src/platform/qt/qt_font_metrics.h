@@ -6,8 +6,8 @@
 #include <QRawFont>
 #include <QRectF>
 #include <array>
+#include <cstdint>
 #include <functional>
-#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -49,7 +49,8 @@ class QtFontMetrics final : public host::FontMetrics {
   double shaped(std::string_view text);
   double letter(unsigned char c);
   double kerning(unsigned char first, unsigned char second);
-  std::optional<double> plainAdvance(std::string_view text);
+  double learned(std::string_view text);
+  void keep(unsigned char first, unsigned char second, double added);
   struct Glyph {
     quint32 index;
     float left, top, right, bottom;  // of the ink, from where the glyph stands
@@ -70,9 +71,16 @@ class QtFontMetrics final : public host::FontMetrics {
   std::array<float, kLetters> letters_;
   std::vector<float> kernings_;  // kLetters squared, by first and second
 
-  // The printable letters of ASCII, and what each adds behind another one.
-  static constexpr std::size_t kFirstPlain = 0x20, kPlain = 0x60;
-  std::vector<float> plainPairs_;
+  // What each printable letter of ASCII adds behind another one or at the beginning, in the 64ths of a pixel
+  // that Qt counts in; anything else is unknown, and makes a sum too large.
+  static constexpr std::size_t kNotPlain = 0, kFirstPlain = 0x20, kCodes = 0x61;
+  static constexpr int kSteps = 64;
+  static constexpr std::int32_t kUnknownStep = 1 << 30;
+  static std::size_t plainCode(unsigned char c) {
+    const std::size_t code = c - kFirstPlain + 1;
+    return code < kCodes ? code : kNotPlain;
+  }
+  std::vector<std::int32_t> added_;  // kCodes squared, by the code before and the letter's own
 
   static constexpr quint32 kNoGlyph = 0, kNotAsked = 0xFFFFFFFF;
   QRawFont raw_;
