@@ -313,6 +313,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   std::int32_t footerButtons() const { return buttons_ ? buttons_->Count() : 0; }
   bool hasButtons() const { return footerButtons() > 0; }
   double firstButtonHeight() const;
+  bool showButtons();
   double arrangeButtons();
   host::UserControl& control() override { return *this; }
   std::unique_ptr<host::CallPoster> makePoster() override;

@@ -19,12 +19,18 @@ double QRNDisplay::firstButtonHeight() const {
   return first ? first->Height() : 0;
 }
 
+// The user may have given the focus to the footer, and who hears of its loss may do anything: answers whether
+// the panel is still there.
+bool QRNDisplay::showButtons() {
+  const WeakRef<host::Control> self(this);
+  buttonsContainer_.SetVisible(hasButtons());
+  return static_cast<bool>(self);
+}
+
 // Answers what the footer, the bottom margin included, takes of the panel's height. A wide margin is kept; a
 // narrow one grows to half a button, at the sides of the row too.
 double QRNDisplay::arrangeButtons() {
-  const bool shown = hasButtons();
-  buttonsContainer_.SetVisible(shown);
-  if (!shown) return bottomMargin_;
+  if (!hasButtons()) return bottomMargin_;
   const double height = firstButtonHeight();
   const std::int32_t half = halfOf(height);
   const std::int32_t bottom = std::max(bottomMargin_, half), left = std::max(leftMargin_, half);

@@ -23,7 +23,7 @@ ColumnWidths widthsOf(const QRNEdit& row) { return {row.LabelWidth(), row.ValueW
 
 // The item container comes last: its new size lays the items out, and that may fail, or end the panel.
 void QRNDisplay::arrange() {
-  if (!redraw_) return;
+  if (!redraw_ || !showButtons()) return;
   titleHeight_ = titleStyle_ == qrnTitleNone ? 0 : arrangeTitle();
   const double below = arrangeButtons();
   const double width = std::max(roundHalfEven(ScaleWidth() - leftMargin_ - rightMargin_), 1.0);

@@ -226,6 +226,33 @@ TEST_F(FooterFaults, ANewButtonMayBeRemovedInsideItsLayout) {
   EXPECT_EQ(raisedBy([&] { button->Control(); }).number, kObjectNotInitialized);
 }
 
+TEST_F(FooterFaults, ThePanelMayGoWhenTheFooterLosesTheFocusWithItsLastButton) {
+  add("OK");
+  panel().SetButtonsAlignment(0);
+  const Rect footer = panel().ButtonsContainer().visibleOnSurface();
+  user->clicksAt({footer.right() - 5, footer.top + 5});
+  ASSERT_TRUE(panel().ButtonsContainer().hasFocus());
+  const auto connection = panel().ObjectEvent.connect([&](std::string_view name, host::EventArgs) {
+    if (name == "LostFocus") panel_.reset();
+  });
+  buttons().Remove(Variant(1));
+  EXPECT_EQ(panel_, nullptr);
+}
+
+TEST_F(FooterFaults, ALaterButtonShowsAgainTheFooterThatHasLostTheFocus) {
+  add("OK");
+  panel().SetButtonsAlignment(0);
+  const Rect footer = panel().ButtonsContainer().visibleOnSurface();
+  user->clicksAt({footer.right() - 5, footer.top + 5});
+  const auto connection = panel().ObjectEvent.connect([&](std::string_view name, host::EventArgs) {
+    if (name == "LostFocus") add("Again");
+  });
+  buttons().Remove(Variant(1));
+  EXPECT_EQ(order(), (Names{"Again"}));
+  EXPECT_TRUE(panel().ButtonsContainer().Visible());
+  EXPECT_EQ(control(1).visibleOnSurface().size(), control(1).pixelSize());
+}
+
 TEST_F(FooterFaults, AnErrorOfALayoutListenerReachesTheCallerAndLeavesTheButton) {
   {
     const auto connection = panel().ButtonLayout.connect([](std::int32_t&) { RaiseError(1000, "listener"); });
