@@ -16,7 +16,7 @@ QRNDisplay& clsQRNCollection::Display() const {
 std::shared_ptr<clsQRNParam> clsQRNCollection::AddParameter(std::string_view CtlName, qrnValueType ParamType,
                                                             const std::optional<Variant>& AtPosition) {
   auto item = std::make_shared<clsQRNParam>();
-  if (!addItem(item, "QRNV16Controls2.QRNEdit", "Parameter", CtlName, AtPosition)) return nullptr;
+  addItem(item, "QRNV16Controls2.QRNEdit", "Parameter", CtlName, AtPosition);
   item->SetDefaultLayout(ParamType);
   return item;
 }
@@ -24,20 +24,19 @@ std::shared_ptr<clsQRNParam> clsQRNCollection::AddParameter(std::string_view Ctl
 std::shared_ptr<clsQRNAction> clsQRNCollection::AddAction(std::string_view CtlName, ddtypeAction ActionType,
                                                           const std::optional<Variant>& AtPosition) {
   auto item = std::make_shared<clsQRNAction>();
-  if (!addItem(item, "QRNV16Controls2.QRNMenuItem", "Action", CtlName, AtPosition)) return nullptr;
+  addItem(item, "QRNV16Controls2.QRNMenuItem", "Action", CtlName, AtPosition);
   item->SetDefaultLayout(ActionType);
   return item;
 }
 
-PanelItemPtr clsQRNCollection::addItem(PanelItemPtr item, std::string_view progId, std::string_view prefix,
-                                       std::string_view name, const std::optional<Variant>& atPosition) {
+void clsQRNCollection::addItem(const PanelItemPtr& item, std::string_view progId, std::string_view prefix,
+                               std::string_view name, const std::optional<Variant>& atPosition) {
   QRNDisplay& panel = Display();
-  const std::string key = name.empty() ? items_.freeKey(prefix) : std::string(name);
+  std::string key = name.empty() ? items_.freeKey(prefix) : std::string(name);
   auto& control = panel.ControlsCollection().add(progId, key, panel.ControlsContainer());
-  items_.add(key, item, atPosition);
+  items_.add(std::move(key), item, atPosition);
   panel.childMeasureChanged(control);
   item->SetControl(static_cast<host::UserControl&>(control));
-  return item;
 }
 
 std::int32_t clsQRNCollection::GetIndexOf(const Variant& aSelector) const {

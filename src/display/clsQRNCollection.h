@@ -21,11 +21,11 @@ class clsQRNCollection final : public Object {
   std::string_view typeName() const override { return "clsQRNCollection"; }
 
   /// Makes an item and its control under a name, or under a made one if that is empty, in front of the item
-  /// that AtPosition selects, or else at the end. Null when no control could be made. Errors: 727 for a name
-  /// that a control of the panel has, 457 for a key in use.
+  /// that AtPosition selects, or else at the end. Errors: 727 for a name that a control of the panel has, 457
+  /// for a key in use, 429 while the controls' classes are not registered.
   std::shared_ptr<clsQRNParam> AddParameter(std::string_view CtlName, qrnValueType ParamType,
                                             const std::optional<Variant>& AtPosition = {});
-  /// The same with a button. Errors: 727 and 457 as above.
+  /// The same with a button. Errors: as above.
   std::shared_ptr<clsQRNAction> AddAction(std::string_view CtlName, ddtypeAction ActionType,
                                           const std::optional<Variant>& AtPosition = {});
 
@@ -52,9 +52,8 @@ class clsQRNCollection final : public Object {
   void SetDisplay(QRNDisplay& panel);
   QRNDisplay& Display() const;
 
-  std::shared_ptr<PanelItem> addItem(std::shared_ptr<PanelItem> item, std::string_view progId,
-                                     std::string_view prefix, std::string_view name,
-                                     const std::optional<Variant>& atPosition);
+  void addItem(const PanelItemPtr& item, std::string_view progId, std::string_view prefix,
+               std::string_view name, const std::optional<Variant>& atPosition);
   void removeAt(std::int32_t position);
   const PanelItem& at(std::int32_t position) const { return *items_.at(position); }
 

@@ -97,7 +97,7 @@ void Control::Move(double left, double top, double width, double height) {
     tellPlace();
     invalidate();
   }
-  moved(before);
+  moved(before, target);
 }
 
 const std::string& Control::ToolTipText() const {

@@ -167,7 +167,7 @@ class Control : public Object {
 
   /// The control has just got its container.
   virtual void placed() {}
-  virtual void moved(const Rect& /*before*/) {}
+  virtual void moved(const Rect& /*before*/, const Rect& /*now*/) {}
   virtual void visibilityChanged() {}
   /// The native widget has just been made.
   virtual void realised() {}

@@ -12,8 +12,8 @@ void PictureBox::scrollTo(double offset) {
   invalidate();
 }
 
-void PictureBox::moved(const Rect& before) {
-  if (before.size() != bounds().size() && Parent()) Parent()->childChanged(*this);
+void PictureBox::moved(const Rect& before, const Rect& now) {
+  if (before.size() != now.size() && Parent()) Parent()->childChanged(*this);
 }
 
 }  // namespace qrn::host

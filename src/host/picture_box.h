@@ -21,7 +21,7 @@ class PictureBox final : public ContainerControl {
   bool acceptsFocus() const override { return Enabled(); }
 
  protected:
-  void moved(const Rect& before) override;
+  void moved(const Rect& before, const Rect& now) override;
 
  private:
   double scrolledBy_ = 0;

@@ -101,8 +101,8 @@ void UserControl::setForeColor(Color color) {
   invalidate();
 }
 
-void UserControl::moved(const Rect& before) {
-  if (running_ && before.size() != bounds().size()) resize();
+void UserControl::moved(const Rect& before, const Rect& now) {
+  if (running_ && before.size() != now.size()) resize();
 }
 
 void UserControl::visibilityChanged() {

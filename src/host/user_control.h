@@ -121,7 +121,7 @@ class UserControl : public ContainerControl, public Site {
   void setForeColor(Color color);
   void setScaleMode(std::int16_t mode) { scaleMode_ = mode; }
 
-  void moved(const Rect& before) override;
+  void moved(const Rect& before, const Rect& now) override;
   void visibilityChanged() override;
   void gotFocus() override;
   void lostFocus() override;

@@ -153,6 +153,29 @@ TEST_F(ARowLaidOut, GivesUpTheRoomOfAnIconThatIsNotVisible) {
   EXPECT_EQ(leftOf(row().lblLabel()), 0);
 }
 
+TEST_F(ARowLaidOut, MeasuresItsIconsAgainWhenAnythingOfThemChanges) {
+  useIcons();
+  const auto beside = [&] { return row().GetMinBruttoWidth(); };
+  ASSERT_EQ(beside(), 16 + 16 + 4 * 4);
+  row().SetIcon2Picture(picture(30, 10));
+  EXPECT_EQ(beside(), 16 + 30 + 4 * 4);
+  row().SetIcon1ButtonMode(qrnButtonFlat);
+  EXPECT_EQ(beside(), 18 + 30 + 4 * 4);
+  row().SetIcon1Column(0);
+  EXPECT_EQ(beside(), 30 + 3 * 4);
+  row().SetIcon1Column(2);
+  EXPECT_EQ(beside(), 18 + 30 + 4 * 4);
+  row().SetIcon2Visible(false);
+  EXPECT_EQ(beside(), 18 + 3 * 4);
+  row().SetIcon1Picture(nullptr);
+  EXPECT_EQ(beside(), 2 + 3 * 4);
+  row().SetUnitVisible(false);
+  EXPECT_EQ(beside(), 2 + 2 * 4);
+  row().SetIcon1Picture(picture(16, 16));
+  row().SetScaleMode(2);  // points: three quarters of as many
+  EXPECT_EQ(beside(), 12 + 2 + 2 * 4);
+}
+
 TEST_F(ARowLaidOut, MeasuresWithItsOwnFont) {
   const auto wide = std::make_shared<host::Font>("Wide", 20);
   metrics(wide).characterWidth = 10;
