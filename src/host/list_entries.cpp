@@ -21,10 +21,11 @@ void ListEntries::SetList(std::int32_t index, std::string_view text) {
 
 void ListEntries::AddItem(std::string_view text) {
   if (ListCount() == std::numeric_limits<std::int16_t>::max()) raiseRunTimeError(kOverflow, listName());
+  Entry added{.text = std::string(text)};  // it may be a text of this list
   // In small steps: most lists are short, and a panel has many of them.
   if (entries_.size() == entries_.capacity())
     entries_.reserve(std::max<std::size_t>(4, entries_.size() + entries_.size() / 4 + 1));
-  entries_.emplace_back().text = text;
+  entries_.push_back(std::move(added));
   newIndex_ = static_cast<std::int16_t>(ListCount() - 1);
   entriesChanged();
 }

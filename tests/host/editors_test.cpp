@@ -196,6 +196,14 @@ TEST_F(Lists, AddTheirEntriesAtTheEnd) {
   EXPECT_EQ(list.List(0), "changed");
 }
 
+TEST_F(Lists, AddATextOfTheirOwnAgain) {
+  const std::string first = "a text that is too long to lie in its string";
+  list.AddItem(first);
+  for (int i = 1; i < 20; ++i) list.AddItem(list.List(i - 1));
+  EXPECT_EQ(list.ListCount(), 20);
+  EXPECT_EQ(list.List(19), first);
+}
+
 TEST_F(Lists, AnswerAnIndexOutsideThemWithError380) {
   list.AddItem("a");
   for (const std::int32_t index : {-1, 1, 40'000}) {

@@ -84,7 +84,7 @@ double QtFontMetrics::advance(std::string_view text) {
     width += added_[before * kCodes + code];
     before = code;
   }
-  // Pairs that move together make it a little less.
+  // What is unknown outweighs all pairs that move together.
   return width < kUnknownStep / 2 ? static_cast<double>(width) / kSteps : learned(text);
 }
 
