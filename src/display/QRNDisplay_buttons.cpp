@@ -20,11 +20,11 @@ double QRNDisplay::firstButtonHeight() const {
 }
 
 // The user may have given the focus to the footer, and who hears of its loss may do anything: answers whether
-// the panel is still there.
+// the panel is still there, and still to be arranged.
 bool QRNDisplay::showButtons() {
   const WeakRef<host::Control> self(this);
   buttonsContainer_.SetVisible(hasButtons());
-  return static_cast<bool>(self);
+  return self && redraw_;
 }
 
 // Answers what the footer, the bottom margin included, takes of the panel's height. A wide margin is kept; a

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/first_error.h"
 #include "host/container_control.h"
 #include "host/user_control.h"
 #include "runtime/errors.h"
@@ -65,12 +66,15 @@ void Control::SetVisible(bool visible) {
   invalidate();
   visible_ = visible;
   const WeakRef<Control> self(this);
-  if (!visible && container_ && hasFocus()) input().setFocus(nullptr);
+  FirstError error;
+  if (!visible && container_ && hasFocus()) error.of([&] { input().setFocus(nullptr); });
   // A listener may have removed the control, or shown it again.
-  if (!self || visible_ != visible) return;
-  tellPlace();
-  invalidate();
-  visibilityChanged();
+  if (self && visible_ == visible) {
+    tellPlace();
+    invalidate();
+    error.of([&] { visibilityChanged(); });
+  }
+  error.raise();
 }
 
 // The native widgets inside can be used no longer, or again.
@@ -97,7 +101,7 @@ void Control::Move(double left, double top, double width, double height) {
     tellPlace();
     invalidate();
   }
-  moved(before, target);
+  moved(before, bounds_);
 }
 
 const std::string& Control::ToolTipText() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/scoped_flag.h"
 #include "host/alignment.h"
 #include "host/control.h"
 
@@ -23,7 +24,9 @@ class Editor : public Control {
   void SetFont(FontPtr font);
 
   PeerPolicy peerPolicy() const override { return PeerPolicy::WhenFocused; }
-  bool acceptsFocus() const override { return Enabled() && Visible(); }
+  bool acceptsFocus() const override { return Enabled() && Visible() && !leaving_; }
+  /// It is about to go, and takes the focus from nobody any more as long as the answer lives.
+  [[nodiscard]] ScopedFlag<Editor> leave() { return {*this, &Editor::leaving_}; }
 
   void paint(Surface& surface, Size size) override;
   void fontChanged() override;
@@ -41,6 +44,7 @@ class Editor : public Control {
   Color backColor_;
   Color foreColor_ = kWindowText;
   std::int32_t alignment_ = kAlignLeft;
+  bool leaving_ = false;
 };
 
 }  // namespace qrn::host

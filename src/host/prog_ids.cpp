@@ -44,7 +44,7 @@ const ProgId* search(std::string_view progId) {
   return nullptr;
 }
 
-// A panel asks for the same few again and again; their names differ in length.
+// A panel asks for the same few again and again, and most of their names differ in length.
 const ProgId* find(std::string_view progId) {
   const ProgId*& last = lastFound[progId.size() % lastFound.size()];
   if (!last || !text::sameName(last->name, progId)) last = search(progId);

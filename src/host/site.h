@@ -24,7 +24,7 @@ class Site {
   virtual ~Site() = default;
   virtual Platform& platform() const = 0;
   virtual Ambient ambient() const = 0;
-  /// Of the ambient properties the one that is asked for again and again.
+  /// False in a designer: of the ambient properties the one that is asked for again and again.
   virtual bool userMode() const { return ambient().userMode; }
   /// A persisted property has changed.
   virtual void propertyChanged(UserControl& /*control*/, std::string_view /*key*/) {}

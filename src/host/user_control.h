@@ -46,7 +46,7 @@ class UserControl : public ContainerControl, public Site {
 
   // A child's site is its user control, which has nothing to do with its properties.
   Platform& platform() const override { return site_->platform(); }
-  Ambient ambient() const override;
+  Ambient ambient() const final;
   bool userMode() const final { return site_->userMode(); }
   void propertyChanged(UserControl& /*child*/, std::string_view /*key*/) final {}
 

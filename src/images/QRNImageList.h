@@ -31,10 +31,10 @@ class QRNImageList final : public host::UserControl {
     std::int32_t id;
     host::PicturePtr picture;
   };
-  /// The first from a number on.
+  /// The first of this number or a higher one, or the end.
   std::vector<Numbered>::const_iterator from(std::int32_t id) const;
 
-  std::vector<Numbered> images_;  // by number, most of them where it says
+  std::vector<Numbered> images_;  // sorted; as long as none is missing, each lies at the index of its number
 };
 
 }  // namespace qrn

@@ -452,7 +452,6 @@ class QRNEdit final : public host::UserControl {
   bool redraw_ = false;
   bool editorShown_ = true;  // the last that the editor was told
   bool makingEditor_ = false;
-  bool editorLeaves_ = false;  // the focus is being taken from it before it goes
 
   RowText label_;
   RowText unit_;

@@ -28,20 +28,16 @@ void QRNEdit::SetValueType(qrnValueType type) {
 }
 
 // The focus waits on the row while one editor takes the place of another, and the edit goes on. A row that
-// will have no editor gives it up while the edit can still be ended.
+// will have no editor gives it up while the edit can still be ended, and nobody who hears of that can give it
+// back.
 bool QRNEdit::takeFocusFromEditor(qrnValueType nextType) {
-  const host::Editor* editor = editor_.inner();
+  host::Editor* const editor = editor_.inner();
   const ValueEditor::Kind next = ValueEditor::kindFor(nextType);
   if (!editor || next == editor_.kind() || !editor->hasFocus()) return false;
   const bool goesOn = next != ValueEditor::Kind::None && next != ValueEditor::Kind::Array;
-  if (goesOn) {
-    input().setFocus(this);
-    return true;
-  }
-  // Whoever hears of that can't give it back to an editor that goes, and may remove the row.
-  const ScopedFlag leaving(*this, &QRNEdit::editorLeaves_);
-  input().setFocus(nullptr);
-  return false;
+  const auto leaving = editor->leave();
+  input().setFocus(goesOn ? this : nullptr);
+  return goesOn;
 }
 
 void QRNEdit::switchEditor(qrnValueType type) {

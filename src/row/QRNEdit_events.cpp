@@ -71,7 +71,7 @@ void QRNEdit::lostFocus() {
 }
 
 host::Control* QRNEdit::focusTarget() {
-  host::Editor* editor = valueVisible_ && !editorLeaves_ ? CurrentEditor() : nullptr;
+  host::Editor* editor = valueVisible_ ? CurrentEditor() : nullptr;
   return editor && editor->acceptsFocus() ? editor : nullptr;
 }
 

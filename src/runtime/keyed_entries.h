@@ -31,7 +31,7 @@ class KeyedEntries {
   void renumberFrom(std::int32_t position);
 
   std::vector<KeyedEntry*> entries_;
-  NameIndex index_;  // of all, or empty as long as they are few
+  NameIndex index_;  // empty until they are many, then of all until none is left
 };
 
 }  // namespace qrn

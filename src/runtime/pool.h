@@ -48,12 +48,12 @@ class Pool {
   void addBlock() {
     constexpr std::size_t kFirst = 4, kMost = 64;
     const std::size_t size = std::min(kFirst << std::min<std::size_t>(blocks_.size(), 8), kMost);
-    auto block = std::make_unique<Slot[]>(size);
+    blocks_.push_back(std::make_unique<Slot[]>(size));
     for (std::size_t i = size; i > 0; --i) {
-      block[i - 1].next = free_;
-      free_ = &block[i - 1];
+      Slot& slot = blocks_.back()[i - 1];
+      slot.next = free_;
+      free_ = &slot;
     }
-    blocks_.push_back(std::move(block));
   }
 
   std::vector<std::unique_ptr<Slot[]>> blocks_;

@@ -1,5 +1,6 @@
 #include "host/label.h"
 #include "host/text_box.h"
+#include "runtime/errors.h"
 #include "test_control.h"
 
 namespace qrn::test {
@@ -155,7 +156,7 @@ TEST_F(LifeCycles, LetAParentRemoveItsChildrenWhenItTerminates) {
 
 TEST_F(LifeCycles, LeaveAChildItsNameToTheEnd) {
   const auto noteName = [this](Living& self, std::string_view step) {
-    if (step == "terminate" || step == "hide") diary.note(self.Name());
+    if (step == "terminate" || step == "destroyed") diary.note(self.Name());
   };
   auto parent = living("parent");
   host::LifeCycle::start(*parent, site, nullptr);
@@ -165,7 +166,21 @@ TEST_F(LifeCycles, LeaveAChildItsNameToTheEnd) {
   parent->controls().remove("a name that is longer than most");
   parent->controls().clear();
   EXPECT_EQ(heard(), (Heard{"first terminate, children 0", "a name that is longer than most",
-                            "first destroyed", "second terminate, children 0", "short", "second destroyed"}));
+                            "first destroyed", "a name that is longer than most",
+                            "second terminate, children 0", "short", "second destroyed", "short"}));
+}
+
+TEST_F(LifeCycles, HideAControlToTheEndThoughAListenerToItsFocusFails) {
+  Living& first = addTo(surface(), living("first"), "1");
+  auto& box = first.add<host::TextBox>("box");
+  box.SetFocus();
+  const auto failing = first.ObjectEvent.connect([](std::string_view name, host::EventArgs) {
+    if (name == "LostFocus") raiseRunTimeError(kOverflow);
+  });
+  heard();
+  EXPECT_THROW(first.SetVisible(false), RunTimeError);
+  EXPECT_EQ(heard(), (Heard{"box LostFocus", "first LostFocus", "first hide"}));
+  EXPECT_FALSE(first.Visible());
 }
 
 TEST_F(LifeCycles, EndAControlThatFailsInAnyStepOfItsStartAndLeaveNothingBehind) {

@@ -71,8 +71,8 @@ class QtFontMetrics final : public host::FontMetrics {
   std::array<float, kLetters> letters_;
   std::vector<float> kernings_;  // kLetters squared, by first and second
 
-  // What each printable letter of ASCII adds behind another one or at the beginning, in the 64ths of a pixel
-  // that Qt counts in; anything else is unknown, and makes a sum too large.
+  // What each letter from the blank to the end of ASCII adds behind another one or at the beginning, in the
+  // 64ths of a pixel that Qt counts in; anything else is unknown, and makes a sum too large.
   static constexpr std::size_t kNotPlain = 0, kFirstPlain = 0x20, kCodes = 0x61;
   static constexpr int kSteps = 64;
   static constexpr std::int32_t kUnknownStep = 1 << 30;
