@@ -253,6 +253,21 @@ TEST_F(FooterFaults, ALaterButtonShowsAgainTheFooterThatHasLostTheFocus) {
   EXPECT_EQ(control(1).visibleOnSurface().size(), control(1).pixelSize());
 }
 
+TEST_F(FooterFaults, NothingIsArrangedOnceAListenerToTheFocusOfTheFooterHasSwitchedThatOff) {
+  add("OK");
+  panel().SetButtonsAlignment(0);
+  const Rect footer = panel().ButtonsContainer().visibleOnSurface();
+  user->clicksAt({footer.right() - 5, footer.top + 5});
+  const double height = panel().ControlsContainer().Height();
+  const auto connection = panel().ObjectEvent.connect([&](std::string_view name, host::EventArgs) {
+    if (name == "LostFocus") panel().SetRedraw(false);
+  });
+  buttons().Remove(Variant(1));
+  EXPECT_EQ(panel().ControlsContainer().Height(), height);
+  panel().SetRedraw(true);
+  EXPECT_GT(panel().ControlsContainer().Height(), height);
+}
+
 TEST_F(FooterFaults, AnErrorOfALayoutListenerReachesTheCallerAndLeavesTheButton) {
   {
     const auto connection = panel().ButtonLayout.connect([](std::int32_t&) { RaiseError(1000, "listener"); });

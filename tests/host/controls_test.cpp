@@ -49,8 +49,9 @@ TEST_F(ControlCollections, MakeTheClassesThatTheLayerAboveHandedDown) {
   host::setControlClasses(kClasses);
   EXPECT_EQ(controls().add("test.plain", "a", surface()).typeName(), "Plain");
   EXPECT_EQ(controls().add("VB.TextBox", "b", surface()).typeName(), "TextBox");
+  EXPECT_EQ(controls().add("TEST.PLAIN", "c", surface()).typeName(), "Plain");
   host::setControlClasses({});
-  EXPECT_EQ(errorOf([&] { controls().add("Test.Plain", "c", surface()); }), 429);
+  EXPECT_EQ(errorOf([&] { controls().add("Test.Plain", "d", surface()); }), 429);
 }
 
 TEST_F(ControlCollections, RefuseANameInUseWithError727WhateverItsCase) {

@@ -144,6 +144,21 @@ TEST_F(Platform, WidthsAreThoseOfShapedText) {
   }
 }
 
+TEST_F(Platform, ALetterIsAsWideAsItIsAloneHoweverOthersMovedItBefore) {
+  const QFontMetricsF exact(toQFont(host::Font("DejaVu Sans", 9)));
+  int moved = 0;
+  for (const char* accented : {"\u00c0", "\u00d9", "\u00e9", "\u00fd"}) {
+    QtFontMetrics metrics(host::Font("DejaVu Sans", 9));
+    for (char c = 'A'; c <= 'z'; ++c) {
+      const std::string letter(1, c), pair = accented + letter;
+      const double alone = exact.horizontalAdvance(QChar(c));
+      moved += metrics.advance(pair) - metrics.advance(accented) == alone ? 0 : 1;
+      EXPECT_EQ(metrics.advance(letter), alone) << pair;
+    }
+  }
+  EXPECT_GT(moved, 0);
+}
+
 TEST_F(Platform, ATextThatHasToBeShapedIsShapedOnce) {
   QtFontMetrics metrics(host::Font("DejaVu Sans", 9));
   const QFontMetricsF exact(metrics.font());
