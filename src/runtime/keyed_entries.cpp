@@ -1,5 +1,7 @@
 #include "runtime/keyed_entries.h"
 
+#include <algorithm>
+
 #include "base/text.h"
 #include "runtime/errors.h"
 
@@ -29,14 +31,22 @@ KeyedEntry* KeyedEntries::find(std::uint32_t hash, std::string_view key) const {
 }
 
 bool KeyedEntries::insert(KeyedEntry& entry, std::int32_t before) {
+  if (index_.empty() && count() == kFew) startIndex();
+  // Before the index has the entry: from then on nothing may fail.
+  if (entries_.size() == entries_.capacity())
+    entries_.reserve(std::max<std::size_t>(kFew, 2 * entries_.size()));
   const bool isNew = index_.empty() ? !find(entry.hash, entry.key) : index_.insert(entry);
   if (!isNew) return false;
   entry.position = before >= 1 && before <= count() ? before : count() + 1;
   entries_.insert(entries_.begin() + (entry.position - 1), &entry);
   renumberFrom(entry.position + 1);
-  if (index_.empty() && count() > kFew)
-    for (KeyedEntry* one : entries_) index_.insert(*one);
   return true;
+}
+
+void KeyedEntries::startIndex() {
+  NameIndex index;
+  for (KeyedEntry* entry : entries_) index.insert(*entry);
+  index_ = std::move(index);
 }
 
 void KeyedEntries::erase(const KeyedEntry& entry) {

@@ -21,13 +21,15 @@ class KeyedEntries {
   /// Null for an unknown key.
   KeyedEntry* find(std::string_view key) const { return find(hashOf(key), key); }
 
-  /// Appends, or inserts before a position in 1..count. False, and nothing done, for a key in use.
+  /// Appends, or inserts before a position in 1..count. False, and nothing done, for a key in use; nothing is
+  /// done either when memory runs out.
   bool insert(KeyedEntry& entry, std::int32_t before);
   /// Takes an entry out that is here.
   void erase(const KeyedEntry& entry);
 
  private:
   KeyedEntry* find(std::uint32_t hash, std::string_view key) const;
+  void startIndex();
   void renumberFrom(std::int32_t position);
 
   std::vector<KeyedEntry*> entries_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -23,7 +24,10 @@ class KeyedList {
   KeyedList(const KeyedList&) = delete;
   KeyedList& operator=(const KeyedList&) = delete;
   ~KeyedList() {
-    for (std::int32_t position = 1; position <= count(); ++position) pool_.remove(at(position));
+    // A value that goes may ask for the others, so it finds none.
+    const KeyedEntries going = std::exchange(entries_, {});
+    for (std::int32_t position = 1; position <= going.count(); ++position)
+      pool_.remove(static_cast<Entry&>(going.at(position)));
   }
 
   std::int32_t count() const { return entries_.count(); }
@@ -52,10 +56,10 @@ class KeyedList {
   /// The same; null for a key in use.
   Entry* addNew(std::string key, T value, std::int32_t before = 0) {
     const std::uint32_t hash = KeyedEntries::hashOf(key);
-    Entry& entry = pool_.add({{std::move(key), hash}, std::move(value)});
-    if (entries_.insert(entry, before)) return &entry;
-    pool_.remove(entry);
-    return nullptr;
+    const auto remove = [this](Entry* entry) { pool_.remove(*entry); };
+    std::unique_ptr<Entry, decltype(remove)> added(&pool_.add({{std::move(key), hash}, std::move(value)}),
+                                                   remove);
+    return entries_.insert(*added, before) ? added.release() : nullptr;
   }
 
   /// Takes the entry out and hands its value to the caller. Errors: 9 outside 1..count.

@@ -22,7 +22,7 @@ class NameIndex {
   bool empty() const { return used_ == 0; }
 
   KeyedEntry* find(std::uint32_t hash, std::string_view key) const;
-  /// False, and the entry left out, where the key is in use.
+  /// False, and the entry left out, where the key is in use; left out too when memory runs out.
   bool insert(KeyedEntry& entry);
   /// The entry has to be here.
   void erase(const KeyedEntry& entry);

@@ -132,6 +132,23 @@ TEST(KeyedList, AppendsTenThousandEntriesAndStillFindsEachAtItsPlace) {
   EXPECT_EQ(errorOf([&] { list.add("K9999", ""); }), 457);
 }
 
+// Asks the list, when it goes, whether a key is there.
+struct Asking {
+  KeyedList<std::unique_ptr<Asking>>& list;
+  std::vector<bool>& answers;
+  ~Asking() { answers.push_back(list.find("two") != nullptr); }
+};
+
+TEST(KeyedList, ThatGoesIsEmptyForTheValuesThatGoWithIt) {
+  std::vector<bool> answers;
+  {
+    KeyedList<std::unique_ptr<Asking>> list;
+    list.add("one", std::make_unique<Asking>(list, answers));
+    list.add("two", std::make_unique<Asking>(list, answers));
+  }
+  EXPECT_EQ(answers, (std::vector<bool>{false, false}));
+}
+
 TEST(KeyedList, HoldsValuesThatCanOnlyBeMoved) {
   KeyedList<std::unique_ptr<int>> list;
   list.add("one", std::make_unique<int>(1));
