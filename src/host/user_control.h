@@ -26,7 +26,7 @@ class UserControl : public ContainerControl, public Site {
   virtual const ClassTable& classTable() const = 0;
 
   Site& site() const { return *site_; }
-  Controls& controls();
+  virtual Controls& controls();
   Input& input();
 
   double ScaleWidth() const { return pixelSize().width / pixelsPerUnit().x; }

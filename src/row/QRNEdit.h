@@ -268,6 +268,8 @@ class QRNEdit final : public host::UserControl {
   /// Whether there is one, or would be if it was asked for.
   bool hasEditor() const { return editor_.exists(); }
 
+  /// Makes the parts first: nothing else in the row may have one of their names.
+  host::Controls& controls() override;
   void paint(host::Surface& surface, Size size) override;
   host::Control* focusTarget() override;
   bool acceptsFocus() const override { return false; }

@@ -202,7 +202,7 @@ void QRNEdit::trackIcon(const RowIcon& icon) {
   stopTracking();
   auto tracking = std::make_unique<IconTracking>();
   tracking->image = &imageOf(icon);
-  tracking->timer = static_cast<host::Timer*>(&controls().add("VB.Timer", "tmrHit", *this));
+  tracking->timer = static_cast<host::Timer*>(&UserControl::controls().add("VB.Timer", "tmrHit", *this));
   tracking->tick = tracking->timer->Tick.connect([this, image = tracking->image] {
     const Point cursor = platform().cursor() - platform().screenPosition(root());
     if (!image->shown() || !image->visibleOnSurface().contains(cursor)) stopTracking();
@@ -216,7 +216,7 @@ void QRNEdit::stopTracking() {
   if (!extras_ || !extras_->tracking) return;
   extras_->tracking->timer->SetEnabled(false);
   extras_->tracking.reset();
-  controls().remove("tmrHit");
+  UserControl::controls().remove("tmrHit");
   invalidate();
 }
 

@@ -144,6 +144,11 @@ RowParts& QRNEdit::seenParts() {
   return *parts_;
 }
 
+host::Controls& QRNEdit::controls() {
+  seenParts();
+  return UserControl::controls();
+}
+
 void QRNEdit::makeParts() {
   parts_ = std::make_unique<RowParts>();
   // Before they lie in the row, which would take it for a change of its own.

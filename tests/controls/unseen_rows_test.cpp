@@ -62,6 +62,13 @@ TEST_F(UnseenRows, ShowWhatTheirPropertiesSayOnceTheyAreSeen) {
   EXPECT_EQ(unseen.lblLabel().Width(), unseen.LabelWidth());
 }
 
+TEST_F(UnseenRows, GiveNobodyTheNameOfAPartThatIsYetToBeMade) {
+  for (const char* name : {"lblLabel", "imgIcon1", "imgIcon2", "LBLUNIT", "txtValue"}) {
+    QRNEdit& unseen = panel().Items().AddParameter("", qrnTypeLong)->Control();
+    EXPECT_EQ(refusalOf([&] { unseen.controls().add("VB.TextBox", name, unseen); }), "QRNEdit: 727") << name;
+  }
+}
+
 TEST_F(UnseenRows, AreMeasuredLikeAnyOther) {
   const auto before = row(1).LabelWidth();
   row(50).SetLabelText("a caption that is longer than all the others");
