@@ -8,10 +8,12 @@
 
 namespace qrn::host {
 
+const std::vector<Control*> ContainerControl::kNothing;
+
 ContainerControl::~ContainerControl() {
   // What still lies inside can't be asked for its surface any more.
   if (Container()) input().forget(*this);
-  for (Control* control : contained_) control->container_ = nullptr;
+  for (Control* control : inside()) control->container_ = nullptr;
 }
 
 const std::string& ContainerControl::partName(std::string_view name) {
@@ -24,25 +26,28 @@ void ContainerControl::put(Control& control, UserControl& parent, const std::str
   control.setName(name);
   control.parent_ = &parent;
   control.container_ = this;
-  contained_.push_back(&control);
-  strips_.reset();
+  if (!contents_) contents_ = std::make_unique<Contents>();
+  contents_->controls.push_back(&control);
+  forgetStrips();
   control.placed();
 }
 
 void ContainerControl::release(Control& control) {
   control.invalidate();
   // Searched from the end: what goes is mostly what came last.
-  const auto found = std::find(contained_.rbegin(), contained_.rend(), &control);
-  if (found == contained_.rend()) return;
-  strips_.reset();
-  contained_.erase(std::next(found).base());
+  const auto found = std::find(inside().rbegin(), inside().rend(), &control);
+  if (found == inside().rend()) return;
+  forgetStrips();
+  contents_->controls.erase(std::next(found).base());
   control.container_ = nullptr;
 }
 
 void ContainerControl::bringToFront(Control& control) {
-  const auto found = std::find(contained_.begin(), contained_.end(), &control);
-  if (found != contained_.end()) std::rotate(found, found + 1, contained_.end());
-  strips_.reset();
+  if (!contents_) return;
+  auto& controls = contents_->controls;
+  const auto found = std::find(controls.begin(), controls.end(), &control);
+  if (found != controls.end()) std::rotate(found, found + 1, controls.end());
+  forgetStrips();
   control.invalidate();
 }
 
@@ -93,12 +98,13 @@ void ContainerControl::visit(double top, double bottom, bool topmostFirst, Visit
     }
     return;
   }
-  if (!strips_) {
-    strips_ = std::make_unique<StripIndex>();
-    strips_->build(all);
+  if (!contents_->strips) {
+    contents_->strips = std::make_unique<StripIndex>();
+    contents_->strips->build(all);
   }
   const double scale = pixelsPerUnit().y, offset = scrollOffset().y;
-  std::vector<std::uint32_t> there = strips_->between((top + offset) / scale, (bottom + offset) / scale);
+  std::vector<std::uint32_t> there =
+      contents_->strips->between((top + offset) / scale, (bottom + offset) / scale);
   if (topmostFirst) std::reverse(there.begin(), there.end());
   for (const std::uint32_t place : there) {
     if (visit(*all[place])) return;

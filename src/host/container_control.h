@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "host/control.h"
@@ -15,7 +16,7 @@ class ContainerControl : public Control {
   /// In painting order, the last one on top.
   const std::vector<Control*>& contained() const {
     const_cast<ContainerControl*>(this)->settle();
-    return contained_;
+    return inside();
   }
   /// Where the keyboard is, be it by letters of buttons or by the walk; what shows one of its children at a
   /// time answers that one.
@@ -24,7 +25,7 @@ class ContainerControl : public Control {
   /// Somebody has asked where things are since they were last to be arranged.
   bool seen() const { return !unarranged_; }
   /// What has been made of it so far, arranged or not.
-  const std::vector<Control*>& inside() const { return contained_; }
+  const std::vector<Control*>& inside() const { return contents_ ? contents_->controls : kNothing; }
   void contain(Control& control, UserControl& parent, std::string_view name) {
     put(control, parent, partName(name));
   }
@@ -61,7 +62,7 @@ class ContainerControl : public Control {
  protected:
   // What lies inside has come along.
   void placed() override {
-    for (Control* control : contained_) control->placed();
+    for (Control* control : inside()) control->placed();
   }
 
   /// Has what lies inside arranged when somebody asks where it is, be that the painter, the mouse or a native
@@ -93,10 +94,21 @@ class ContainerControl : public Control {
   template <class Visit>
   void visit(double top, double bottom, bool topmostFirst, Visit&& visit) const;
 
+  /// Where the controls inside lie, and which, is not what it was.
+  void forgetStrips() {
+    if (contents_) contents_->strips.reset();
+  }
+
+  struct Contents {
+    std::vector<Control*> controls;
+    std::unique_ptr<StripIndex> strips;  // of many, and as long as none has moved, come or gone
+  };
+
+  static const std::vector<Control*> kNothing;
+
   std::int8_t rearranging_ = 0;
   bool unarranged_ = false;
-  std::vector<Control*> contained_;
-  mutable std::unique_ptr<StripIndex> strips_;  // of many, and as long as none has moved, come or gone
+  std::unique_ptr<Contents> contents_;  // none before the first control
 };
 
 }  // namespace qrn::host

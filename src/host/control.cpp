@@ -92,7 +92,7 @@ void Control::Move(double left, double top, double width, double height) {
   const Rect target{left, top, width, height};
   const Rect before = bounds();
   if (target == before) return;
-  if (container_) container_->strips_.reset();
+  if (container_) container_->forgetStrips();
   // Nobody, where many move at once, or where nobody looks yet.
   const bool toBeTold = container_ ? container_->rearranging_ == 0 : peer() != nullptr;
   if (toBeTold) invalidate();

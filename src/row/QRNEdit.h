@@ -452,13 +452,23 @@ class QRNEdit final : public host::UserControl {
   bool valueVisible_ = true;
   bool unitVisible_ = true;
   bool redraw_ = false;
+
+  // A panel has thousands of rows: where one of these structures ends within a word, what comes behind it
+  // begins there.
+  [[no_unique_address]] RowText label_;
+  std::int32_t alignment_ = 0;
+  [[no_unique_address]] RowText unit_;
+  std::int32_t valueAlignment_ = 0;
+  [[no_unique_address]] RowIcon icon1_{{}, 1};
   bool editorShown_ = true;  // the last that the editor was told
   bool makingEditor_ = false;
-
-  RowText label_;
-  RowText unit_;
-  RowIcon icon1_{{}, 1};
-  RowIcon icon2_{{}, 4};
+  bool handlingChange_ = false;  // of the editor
+  bool locked_ = false;
+  bool valueUpperCase_ = false;
+  bool password_ = false;
+  [[no_unique_address]] RowIcon icon2_{{}, 4};
+  bool editing_ = false;
+  bool leftPressed_ = false;
   std::unique_ptr<RowToolTips> toolTips_;
   std::unique_ptr<RowParts> parts_;
   ValueEditor editor_;
@@ -470,15 +480,7 @@ class QRNEdit final : public host::UserControl {
   std::unique_ptr<struct RowExtras> extras_;
 
   qrnValueType valueType_ = qrnTypeString;
-  std::int32_t alignment_ = 0;
-  std::int32_t valueAlignment_ = 0;
   std::int32_t valueMaxLength_ = 65535;
-  bool handlingChange_ = false;  // of the editor
-  bool locked_ = false;
-  bool valueUpperCase_ = false;
-  bool password_ = false;
-  bool editing_ = false;
-  bool leftPressed_ = false;
 };
 
 }  // namespace qrn
