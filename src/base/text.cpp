@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "base/letter_case.h"
+
 namespace qrn::text {
 namespace {
 
@@ -27,13 +29,27 @@ bool isOverlongOrSurrogate(char32_t c, int bytes) {
          (c >= 0xD800 && c < 0xE000);
 }
 
+constexpr std::uint64_t kEach = 0x0101010101010101;
+constexpr std::uint64_t kTopBits = kEach * 0x80;
+
 // Eight letters at once: the top bit of each byte tells whether that is one from A to Z.
 std::uint64_t loweredBytes(std::uint64_t bytes) {
-  constexpr std::uint64_t kEach = 0x0101010101010101;
   const std::uint64_t low = bytes & kEach * 0x7F;
   const std::uint64_t fromA = low + kEach * (0x80 - 'A'), behindZ = low + kEach * (0x7F - 'Z');
-  const std::uint64_t letters = (fromA & ~behindZ) & ~bytes & kEach * 0x80;
+  const std::uint64_t letters = (fromA & ~behindZ) & ~bytes & kTopBits;
   return bytes | (letters >> 2);
+}
+
+std::uint64_t hashOf(std::string_view name, std::uint64_t& allBytes) {
+  std::uint64_t hash = name.size();
+  for (; !name.empty(); name.remove_prefix(std::min<std::size_t>(name.size(), 8))) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, name.data(), std::min<std::size_t>(name.size(), 8));
+    allBytes |= bytes;
+    hash = (hash ^ loweredBytes(bytes)) * 0x9E3779B97F4A7C15;
+    hash ^= hash >> 32;
+  }
+  return hash;
 }
 
 }  // namespace
@@ -90,24 +106,23 @@ std::string_view slice(std::string_view utf8, std::size_t position, std::size_t 
   return count == std::string_view::npos ? utf8 : utf8.substr(0, byteOffset(utf8, count));
 }
 
+// A letter and its partner have the same number of bytes.
 bool sameLetters(std::string_view a, std::string_view b) {
   if (a == b) return true;
   // From the end: names that are much alike mostly begin alike.
   for (std::size_t i = a.size(); i-- > 0;) {
-    if (lower(static_cast<unsigned char>(a[i])) != lower(static_cast<unsigned char>(b[i]))) return false;
+    const auto one = static_cast<unsigned char>(a[i]), other = static_cast<unsigned char>(b[i]);
+    if (lower(one) == lower(other)) continue;
+    return one >= 0x80 && other >= 0x80 && lowerCase(a) == lowerCase(b);
   }
   return true;
 }
 
 std::size_t nameHash(std::string_view name) {
-  std::uint64_t hash = name.size();
-  for (; !name.empty(); name.remove_prefix(std::min<std::size_t>(name.size(), 8))) {
-    std::uint64_t bytes = 0;
-    std::memcpy(&bytes, name.data(), std::min<std::size_t>(name.size(), 8));
-    hash = (hash ^ loweredBytes(bytes)) * 0x9E3779B97F4A7C15;
-    hash ^= hash >> 32;
-  }
-  return static_cast<std::size_t>(hash);
+  std::uint64_t allBytes = 0;
+  const std::uint64_t hash = hashOf(name, allBytes);
+  // What is not ASCII is seldom in a name.
+  return static_cast<std::size_t>((allBytes & kTopBits) == 0 ? hash : hashOf(lowerCase(name), allBytes));
 }
 
 std::string lowered(std::string_view ascii) {

@@ -19,7 +19,7 @@ void append(std::string& utf8, char32_t codePoint);
 
 /// Of two names of the same length.
 bool sameLetters(std::string_view a, std::string_view b);
-/// Compares names and keys: the case of ASCII letters does not count.
+/// Compares names and keys: the case of letters does not count.
 inline bool sameName(std::string_view a, std::string_view b) {
   return a.size() == b.size() && sameLetters(a, b);
 }

@@ -1,8 +1,8 @@
 #include "host/list_editor.h"
 
+#include "base/letter_case.h"
 #include "base/text.h"
 #include "host/user_control.h"
-#include "runtime/letter_case.h"
 
 namespace qrn::host {
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "base/letter_case.h"
 #include "base/text.h"
 #include "host/user_control.h"
-#include "runtime/letter_case.h"
 
 namespace qrn::host {
 void TextBox::store(std::string text) {

@@ -4,9 +4,9 @@
 #include <cmath>
 #include <limits>
 
+#include "base/letter_case.h"
 #include "runtime/date_text.h"
 #include "runtime/errors.h"
-#include "runtime/letter_case.h"
 #include "runtime/locale.h"
 #include "runtime/number_text.h"
 #include "runtime/rounding.h"

@@ -6,7 +6,7 @@
 #include <initializer_list>
 #include <vector>
 
-#include "runtime/letter_case.h"
+#include "base/letter_case.h"
 
 namespace qrn {
 namespace {

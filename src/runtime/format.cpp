@@ -4,10 +4,10 @@
 #include <cmath>
 #include <optional>
 
+#include "base/letter_case.h"
 #include "runtime/conversions.h"
 #include "runtime/date_format.h"
 #include "runtime/errors.h"
-#include "runtime/letter_case.h"
 #include "runtime/locale.h"
 #include "runtime/number_format.h"
 #include "runtime/string_format.h"

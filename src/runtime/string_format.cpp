@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "base/letter_case.h"
 #include "base/text.h"
-#include "runtime/letter_case.h"
 
 namespace qrn {
 namespace {

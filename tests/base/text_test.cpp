@@ -88,18 +88,24 @@ TEST(Text, AnyBytesAreCutWithoutLosingOne) {
   }
 }
 
-TEST(Names, CompareWithoutRegardToTheCaseOfAsciiLetters) {
+TEST(Names, CompareWithoutRegardToTheCaseOfLetters) {
   EXPECT_TRUE(sameName("Damping", "dAMPING"));
   EXPECT_TRUE(sameName("", ""));
   EXPECT_FALSE(sameName("Damping", "Damping2"));
   EXPECT_FALSE(sameName("@[`{", "`{@["));  // what lies around the letters has no case
-  EXPECT_FALSE(sameName("\u00c4", "\u00e4"));
+  EXPECT_TRUE(sameName("D\u00c4MPFUNG", "d\u00e4mpfung"));
+  EXPECT_TRUE(sameName("\u0394p \u042f", "\u03b4P \u044f"));
+  EXPECT_FALSE(sameName("\u00c4", "\u00e5"));
+  EXPECT_FALSE(sameName("\u00d7", "\u00f7"));  // times and by
+  EXPECT_FALSE(sameName("\xc3", "\xe3"));      // no letters at all
 }
 
 TEST(Names, ThatAreTheSameHaveTheSameHash) {
   EXPECT_EQ(nameHash("Damping_7"), nameHash("DAMPING_7"));
   EXPECT_NE(nameHash("Damping_7"), nameHash("Damping_8"));
   EXPECT_NE(nameHash("@"), nameHash("`"));
+  EXPECT_EQ(nameHash("D\u00c4MPFUNG \u0394p \u042f"), nameHash("d\u00e4mpfung \u03b4P \u044f"));
+  EXPECT_NE(nameHash("\xc3"), nameHash("\xe3"));
 }
 
 TEST(Names, HaveTheSameHashForTheCaseOfNoOtherBytes) {

@@ -156,13 +156,29 @@ TEST(KeyedList, HoldsValuesThatCanOnlyBeMoved) {
   EXPECT_EQ(*one, 1);
 }
 
-TEST(KeyedList, TellsKeysApartThatDifferInOtherThanAsciiLetters) {
+TEST(KeyedList, TakesNoAccountOfTheCaseOfAnyLetter) {
   List list;
-  list.add("\u00e4", "small");
-  list.add("\u00c4", "capital");
+  list.add("D\u00e4mpfung", "a umlaut");
+  list.add("\u0394p", "delta");
   list.add("", "no name");
-  EXPECT_EQ(list.at("\u00c4").value, "capital");
+  list.add("D\u00f6mpfung", "o umlaut");
+  for (const char* filler : {"1", "2", "3", "4", "5", "6"}) list.add(filler, "");
+  EXPECT_EQ(list.at("D\u00c4MPFUNG").value, "a umlaut");
+  EXPECT_EQ(list.at("d\u00d6mpfung").value, "o umlaut");
+  EXPECT_EQ(list.at("\u03b4P").value, "delta");
   EXPECT_EQ(list.at("").value, "no name");
+  EXPECT_EQ(errorOf([&] { list.add("D\u00c4mpfung", ""); }), 457);
+}
+
+TEST(KeyedList, TellsKeysApartWhoseBytesAreNoLetters) {
+  List list;
+  list.add("a\xff", "one");
+  list.add("a\xfe", "other");
+  list.add("a\u00d7", "times");
+  list.add("a\u00f7", "by");
+  EXPECT_EQ(list.at("A\xff").value, "one");
+  EXPECT_EQ(list.at("A\xfe").value, "other");
+  EXPECT_EQ(list.at("A\u00d7").value, "times");
 }
 
 }  // namespace

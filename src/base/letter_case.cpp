@@ -1,4 +1,4 @@
-#include "runtime/letter_case.h"
+#include "base/letter_case.h"
 
 #include <cstddef>
 
