@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "display/QRNDisplay.h"
+#include "runtime/conversions.h"
 #include "runtime/errors.h"
 #include "runtime/rounding.h"
 
@@ -14,6 +15,9 @@ constexpr double kNarrowest = 80;  // of an item, whatever the panel's width
 ColumnWidths minimumOf(const QRNEdit& row) {
   return {row.GetMinLabelWidth(), row.GetMinValueWidth(), row.GetMinUnitWidth()};
 }
+
+// Errors: 6 beyond a Long.
+std::int32_t sum(std::int32_t a, std::int32_t b) { return CLng(Variant(static_cast<double>(a) + b)); }
 
 ColumnWidths widthsOf(const QRNEdit& row) { return {row.LabelWidth(), row.ValueWidth(), row.UnitWidth()}; }
 
@@ -124,9 +128,9 @@ double QRNDisplay::placeRow(QRNEdit& row, const ItemMeasures& all, double y, dou
   free = std::max(free, 1.0);
   for (std::size_t column = 0; column < kColumns; ++column) {
     const auto share = static_cast<double>(columns_.weight[column]);
-    if (share > 0) widths[column] = static_cast<std::int32_t>(std::floor(share * free));
+    if (share > 0) widths[column] = nearestLong(std::floor(share * free));
   }
-  if (!row.UnitVisible()) widths[1] += widths[2];
+  if (!row.UnitVisible()) widths[1] = sum(widths[1], widths[2]);
   const std::int32_t height = row.GetMinHeight();
   if (y > 0) y += std::max(gap, static_cast<double>(all.verticalSpacing));
   const auto left = static_cast<double>(all.horizontalSpacing);
@@ -142,7 +146,7 @@ std::int32_t QRNDisplay::scrollNumber(double value) const {
   if (!tallContent_ && whole > std::numeric_limits<std::int16_t>::max()) {
     raiseRunTimeError(kOverflow, typeName());
   }
-  return static_cast<std::int32_t>(whole);
+  return nearestLong(whole);
 }
 
 void QRNDisplay::setUpScrollBar(double contentHeight) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -351,6 +352,22 @@ TEST_F(PanelLayout, TheScrollRangeReachesToTheLastSixteenBitNumber) {
   addAction();
   panel().SetMenuItemHeight(5506);  // one more in all
   EXPECT_EQ(raisedBy([&] { panel().LayoutControls(false); }).number, kOverflow);
+}
+
+TEST_F(PanelLayout, AValueThatTakesTheUnitsWidthBeyondALongRaisesAnOverflow) {
+  addParameter("P", qrnTypeLong);
+  row(1).SetUnitVisible(false);
+  EXPECT_EQ(raisedBy([&] { panel().SetColumnLayout(0, 0, 0, 1e9F); }).number, 0);
+  EXPECT_GT(row(1).ValueWidth(), 2'000'000'000);
+  EXPECT_EQ(raisedBy([&] { panel().SetColumnLayout(0, 0, 0, 2e9F); }).number, kOverflow);
+}
+
+TEST_F(PanelLayout, TallContentScrollsAsFarAsALongReaches) {
+  panel().SetTallContent(true);
+  panel().SetVerticalSpacing(std::numeric_limits<std::int32_t>::max());
+  for (const char* name : {"A", "B", "C"}) addParameter(name, qrnTypeLong);
+  panel().LayoutControls(false);
+  EXPECT_EQ(panel().sbrVertical().Max(), std::numeric_limits<std::int32_t>::max());
 }
 
 TEST_F(PanelLayout, AHostThatWantsTallContentGetsIt) {
