@@ -121,21 +121,19 @@ void QRNMenuItem::tellFacts(host::AccessibleFacts& facts) const {
 }
 
 void QRNMenuItem::startHitTracking() {
-  auto& added = controls().add("VB.Timer", "tmrHit", *this);
-  tmrHit_ = static_cast<host::Timer*>(&added);
-  tick_ = tmrHit_->Tick.connect([this] {
+  auto& timer = static_cast<host::Timer&>(controls().add("VB.Timer", "tmrHit", *this));
+  tmrHit_ = WeakRef<host::Timer>(&timer);
+  tick_ = timer.Tick.connect([this] {
     mouseOver_ = Enabled() && isCursorOver();
     if (mouseOver_) return;
     stopHitTracking();
     invalidate();
   });
-  tmrHit_->SetInterval(kHoverInterval);
+  timer.SetInterval(kHoverInterval);
 }
 
 void QRNMenuItem::stopHitTracking() {
   if (!tmrHit_) return;
-  tmrHit_->SetEnabled(false);
-  tmrHit_ = nullptr;
   tick_.disconnect();
   controls().remove("tmrHit");
 }
@@ -155,7 +153,7 @@ void QRNMenuItem::mouseDown(host::MouseButton button, std::int16_t, Point) {
 void QRNMenuItem::mouseMove(std::int16_t, std::int16_t, Point at) {
   if (!takesClicks()) return;
   mouseOver_ = contains(at);
-  if (mouseOver_ == (tmrHit_ != nullptr)) return;
+  if (mouseOver_ == static_cast<bool>(tmrHit_)) return;
   if (mouseOver_)
     startHitTracking();
   else

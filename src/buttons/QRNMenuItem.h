@@ -147,7 +147,7 @@ class QRNMenuItem final : public host::UserControl {
   host::PicturePtr icon_;
   host::PicturePtr iconDisabled_;
   ContextMenu menu_;
-  host::Timer* tmrHit_ = nullptr;
+  WeakRef<host::Timer> tmrHit_;  // the host may remove it like any control
   Connection tick_;
   std::int32_t alignment_ = 0;
   std::int32_t iconAlignment_ = 0;

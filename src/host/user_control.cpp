@@ -85,8 +85,9 @@ bool UserControl::tellSite(std::string_view key) {
 void UserControl::setFont(FontPtr font) {
   font_ = font ? std::move(font) : platform().defaultFont();
   metrics_ = nullptr;
-  for (Control* part : inside()) {
-    if (part->Parent() == this) part->fontChanged();
+  // By index: a part may add another one when it is arranged.
+  for (std::size_t i = 0; i < inside().size(); ++i) {
+    if (inside()[i]->Parent() == this) inside()[i]->fontChanged();
   }
   invalidate();
 }
@@ -184,6 +185,7 @@ Control& Controls::add(Owned<Control> control, std::string_view name, ContainerC
     if (guard && find(name) == &added) remove(name);
     throw;
   }
+  if (guard) added.invalidate();
   return added;
 }
 

@@ -44,9 +44,11 @@ void QRNEdit::SetRedraw(bool redraw) {
 }
 
 void QRNEdit::switchRedraw(bool redraw) {
-  const bool switchedOn = redraw && !redraw_;
+  if (redraw == redraw_) return;
+  // From now on what has been seen of the row stays as it is.
+  if (!redraw && parts_) settle();
   redraw_ = redraw;
-  if (switchedOn) layOut();
+  layOut();
 }
 
 // ---- setters ----
@@ -107,7 +109,6 @@ std::int32_t QRNEdit::wholeWidth(double width) { return nearestLong(roundHalfEve
 
 void QRNEdit::setWidth(double& part, std::int32_t width, std::string_view key) {
   if (width == wholeWidth(part)) return;
-  keepArrangement();
   part = width;
   if (parts_ && !redraw_) applyWidths();
   tellMeasureChanged();
@@ -156,7 +157,6 @@ void QRNEdit::SetUnitAlignment(std::int32_t alignment) {
 
 void QRNEdit::setIconPicture(RowIcon& icon, host::PicturePtr picture, std::string_view key) {
   if (picture == icon.picture) return;
-  keepArrangement();
   const auto sizeOf = [](const host::PicturePtr& one) { return one ? one->size() : Size{}; };
   const bool resized = sizeOf(picture) != sizeOf(icon.picture);
   icon.picture = std::move(picture);

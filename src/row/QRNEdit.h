@@ -17,6 +17,8 @@
 
 namespace qrn {
 
+class FirstError;
+
 class clsQRNArray;
 
 /// One parameter of a device as a row: caption, value editor, unit and up to two status icons.
@@ -324,7 +326,6 @@ class QRNEdit final : public host::UserControl {
   template <class T>
   void storeAndLayOut(T& field, const T& value, std::string_view key) {
     if (field == value) return;
-    keepArrangement();
     field = value;
     if (propertyChanged(key)) layOut();
   }
@@ -363,6 +364,7 @@ class QRNEdit final : public host::UserControl {
   void applyFont();
   void passFont();
   void applyValueToolTip(const std::string& text);
+  host::ListEntries* entriesToChange();
   /// The type has an editor, but there is none: no type was assigned yet, or its class is not known.
   bool lacksEditor() const { return ValueEditor::kindFor(valueType_) != editor_.kind(); }
 
@@ -398,9 +400,8 @@ class QRNEdit final : public host::UserControl {
 
   // ---- layout (QRNEdit_layout.cpp) ----
   void layOut();
-  bool showEditor();
+  void showEditor(FirstError& error);
   void arrangeInside() override;
-  void keepArrangement();
   RowParts& seenParts();
   void makeParts();
   host::Label& labelOf(const RowText& text) { return &text == &label_ ? parts_->lblLabel : parts_->lblUnit; }

@@ -20,7 +20,8 @@ host::Editor* QRNEdit::CurrentEditor() const {
 
 void QRNEdit::SetValueType(qrnValueType type) {
   const WeakRef<QRNEdit> self(this);
-  const bool focused = takeFocusFromEditor(type);
+  // Who hears of it may have given the row another editor, and that one the focus.
+  const bool focused = takeFocusFromEditor(type) || (self && takeFocusFromEditor(type));
   if (!self) return;
   switchEditor(type);
   if (propertyChanged("ValueType")) layOut();
@@ -80,7 +81,10 @@ void QRNEdit::makeEditor() {
     editor_.make(*this);
     applySettings();
   };
+  const bool pending = !seen();
   if (!ignoringErrors(make)) removeEditor();
+  // The repaint of one that was half made may have had the row arranged.
+  if (pending) arrangeLater();
 }
 
 void QRNEdit::childWindowMade(host::Control& child) {
@@ -102,6 +106,7 @@ void QRNEdit::applySettings() {
   if (editor_.check()) editor_.check()->Check().SetBackColor(BackColor());
   editor_.frame()->SetVisible(editorShown_);
   editor_.inner()->SetVisible(editorShown_);
+  if (seen()) editor_.frame()->SetWidth(valueWidth_);
   if (toolTips_) applyValueToolTip(std::exchange(toolTips_->value, {}));
 }
 
@@ -172,6 +177,12 @@ void QRNEdit::applyValueToolTip(const std::string& text) {
 
 // ---- the entries of the lists ----
 
+// A bit list is as high as its entries were at the last layout, be it done or still to be.
+host::ListEntries* QRNEdit::entriesToChange() {
+  if (editor_.bitList()) settle();
+  return editor_.list();
+}
+
 std::int16_t QRNEdit::ValueCount() const {
   if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
   const host::ListEntries* list = editor_.list();
@@ -181,7 +192,7 @@ std::int16_t QRNEdit::ValueCount() const {
 void QRNEdit::SetValueCount(std::int16_t count) {
   // The same number as when it is read, on purpose.
   if (!userMode()) RaiseError(kGetNotAtDesignTime, *this);
-  host::ListEntries* list = editor_.list();
+  host::ListEntries* list = entriesToChange();
   if (!list) return;
   if (count <= 0) list->Clear();
   while (list->ListCount() < count) list->AddItem("");
@@ -197,7 +208,7 @@ std::string QRNEdit::ValueNames(std::int32_t i) const {
 
 void QRNEdit::SetValueNames(std::int32_t i, const std::string& name) {
   if (!userMode()) RaiseError(kSetNotAtDesignTime, *this);
-  host::ListEntries* list = editor_.list();
+  host::ListEntries* list = entriesToChange();
   if (!list) return;
   if (i >= 0 && i < list->ListCount())
     list->SetList(i, name);

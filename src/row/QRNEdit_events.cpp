@@ -1,3 +1,4 @@
+#include "base/first_error.h"
 #include "base/scoped_flag.h"
 #include "diag/DebugTrace.h"
 #include "row/QRNEdit.h"
@@ -42,9 +43,11 @@ bool QRNEdit::endEdit() {
 
 void QRNEdit::gotFocus() {
   const WeakRef<QRNEdit> self(this);
+  FirstError error;
   watchApplication();
-  beginEdit();
-  if (self) UserControl::gotFocus();
+  error.of([&] { beginEdit(); });
+  if (self) error.of([&] { UserControl::gotFocus(); });
+  error.raise();
 }
 
 // Whoever leaves the application leaves the edit; it begins again when he comes back and finds the focus
@@ -65,9 +68,11 @@ void QRNEdit::watchApplication() {
 
 void QRNEdit::lostFocus() {
   const WeakRef<QRNEdit> self(this);
+  FirstError error;
   if (extras_) extras_->focusWatch.reset();
-  endEdit();
-  if (self) UserControl::lostFocus();
+  error.of([&] { endEdit(); });
+  if (self) error.of([&] { UserControl::lostFocus(); });
+  error.raise();
 }
 
 host::Control* QRNEdit::focusTarget() {
@@ -194,7 +199,8 @@ void QRNEdit::showContextMenu(bool atKeyboard) {
 // ---- icons ----
 
 bool QRNEdit::isTracked(const RowIcon& icon) const {
-  return extras_ && extras_->tracking && extras_->tracking->image == &imageOf(icon);
+  const IconTracking* tracking = extras_ ? extras_->tracking.get() : nullptr;
+  return tracking && tracking->timer && tracking->image == &imageOf(icon);
 }
 
 void QRNEdit::trackIcon(const RowIcon& icon) {
@@ -202,21 +208,22 @@ void QRNEdit::trackIcon(const RowIcon& icon) {
   stopTracking();
   auto tracking = std::make_unique<IconTracking>();
   tracking->image = &imageOf(icon);
-  tracking->timer = static_cast<host::Timer*>(&UserControl::controls().add("VB.Timer", "tmrHit", *this));
-  tracking->tick = tracking->timer->Tick.connect([this, image = tracking->image] {
+  auto& timer = static_cast<host::Timer&>(UserControl::controls().add("VB.Timer", "tmrHit", *this));
+  tracking->timer = WeakRef<host::Timer>(&timer);
+  tracking->tick = timer.Tick.connect([this, image = tracking->image] {
     const Point cursor = platform().cursor() - platform().screenPosition(root());
     if (!image->shown() || !image->visibleOnSurface().contains(cursor)) stopTracking();
   });
-  tracking->timer->SetInterval(kHoverInterval);
+  timer.SetInterval(kHoverInterval);
   extras().tracking = std::move(tracking);
   invalidate();
 }
 
 void QRNEdit::stopTracking() {
   if (!extras_ || !extras_->tracking) return;
-  extras_->tracking->timer->SetEnabled(false);
+  const WeakRef<host::Timer> timer = extras_->tracking->timer;
   extras_->tracking.reset();
-  UserControl::controls().remove("tmrHit");
+  if (timer) UserControl::controls().remove("tmrHit");
   invalidate();
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/first_error.h"
 #include "row/QRNEdit.h"
 #include "runtime/rounding.h"
 
@@ -114,28 +115,26 @@ double QRNEdit::overhead(double spacing) const {
   return icons + (parts - 1) * spacing;
 }
 
-// Hiding the focused editor ends the edit, and who hears of that may do anything: answers whether the row is
-// still there.
-bool QRNEdit::showEditor() {
-  if (editorShown_ == valueVisible_) return true;
+// Hiding the focused editor ends the edit, and who hears of that may do anything, fail included.
+void QRNEdit::layOut() {
+  if (!redraw_) return;
+  const WeakRef<QRNEdit> self(this);
+  FirstError error;
+  showEditor(error);
+  if (self) arrangeLater();
+  error.raise();
+}
+
+void QRNEdit::showEditor(FirstError& error) {
+  if (editorShown_ == valueVisible_) return;
   editorShown_ = valueVisible_;
   const WeakRef<QRNEdit> self(this);
-  if (!valueVisible_ && editor_.frame() && editor_.frame()->hasFocus()) input().setFocus(nullptr);
-  if (!self) return false;
-  if (editor_.frame()) {
-    editor_.frame()->SetVisible(valueVisible_);
-    editor_.inner()->SetVisible(valueVisible_);
+  // First what can have the focus: within a hidden frame it could be given back.
+  for (const bool inner : {true, false}) {
+    host::Control* const part = inner ? editor_.inner() : editor_.frame();
+    if (part) error.of([&] { part->SetVisible(editorShown_); });
+    if (!self) return;
   }
-  return true;
-}
-
-void QRNEdit::layOut() {
-  if (redraw_ && showEditor()) arrangeLater();
-}
-
-// While the row is not to be laid out, what has been seen of it stays as it is.
-void QRNEdit::keepArrangement() {
-  if (!redraw_ && parts_) settle();
 }
 
 RowParts& QRNEdit::seenParts() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/event.h"
+#include "base/weak_ref.h"
 #include "host/image.h"
 #include "host/timer.h"
 
@@ -9,7 +10,7 @@ namespace qrn {
 /// The icon in button mode that the mouse is over, watched until the cursor has left it.
 struct IconTracking {
   host::Image* image = nullptr;
-  host::Timer* timer = nullptr;
+  WeakRef<host::Timer> timer;  // the host may remove it like any control
   Connection tick;
 };
 

@@ -176,6 +176,15 @@ TEST_F(ActionButton, ATimerNoticesThatTheMouseHasLeft) {
   EXPECT_EQ(button().controls().find("tmrHit"), nullptr);
 }
 
+TEST_F(ActionButton, AHostMayRemoveTheTimer) {
+  user->movesTo(place({5, 5}));
+  button().controls().remove("tmrHit");
+  user->movesTo(place({6, 6}));
+  EXPECT_NE(button().controls().find("tmrHit"), nullptr);
+  button().controls().remove("tmrHit");
+  button().SetButtonMode(qrnbuttonNone);
+}
+
 TEST_F(ActionButton, ACursorLeftOfAndAboveTheScreenIsNotOverIt) {
   user->movesTo(place({5, 5}));
   platform.setCursor({-3, -7});

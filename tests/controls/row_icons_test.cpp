@@ -49,6 +49,21 @@ TEST_F(RowEvents, WatchNoIconThatThePressedMouseHasLeft) {
   EXPECT_EQ(timer(), nullptr);
 }
 
+TEST_F(RowEvents, WatchAnIconAnewAfterTheHostHasRemovedTheTimer) {
+  row().SetIcon1ButtonMode(qrnButtonFlat);
+  user->hovers(row().imgIcon1());
+  row().controls().remove("tmrHit");
+  user->hovers(row().imgIcon1());
+  EXPECT_NE(timer(), nullptr);
+  row().controls().remove("tmrHit");
+  EXPECT_EQ(painted("line"), Events{});
+  row().SetIcon1ButtonMode(qrnbuttonNone);
+  row().SetIcon1ButtonMode(qrnButtonFlat);
+  user->hovers(row().imgIcon1());
+  row().controls().remove("tmrHit");
+  row_.reset();
+}
+
 TEST_F(RowEvents, StopWatchingAnIconThatIsHidden) {
   row().SetIcon1ButtonMode(qrnButtonFlat);
   user->hovers(row().imgIcon1());

@@ -99,6 +99,69 @@ TEST_F(UnseenRows, AreArrangedFirstWhenTheyStillWereToBeAndMayNotBeAnyMore) {
 
 // ---- what they have instead of an editor ----
 
+TEST_F(UnseenRows, StayAsTheyWereToBeArrangedWhenTheyGrowWhileTheyAreNotToBeLaidOut) {
+  QRNEdit& grown = row(50);
+  QRNEdit& other = row(51);
+  for (QRNEdit* one : {&grown, &other}) {
+    one->SetAlignment(1);
+    one->lblUnit();
+    one->SetLabelWidth(77);
+    one->SetRedraw(false);
+  }
+  grown.SetWidth(grown.Width() + 100);
+  EXPECT_EQ(grown.lblUnit().Left(), other.lblUnit().Left());
+  grown.SetRedraw(true);
+  EXPECT_EQ(grown.lblUnit().Left(), other.lblUnit().Left() + 100);
+}
+
+TEST_F(UnseenRows, GiveANewEditorItsWidthWhileTheyAreNotToBeLaidOut) {
+  QRNEdit& seen = row(50);
+  seen.lblUnit();
+  seen.SetRedraw(false);
+  seen.SetValueType(qrnTypeList);
+  EXPECT_EQ(seen.CurrentEditor()->Parent()->Width(), seen.ValueWidth());
+}
+
+TEST_F(UnseenRows, HaveABitListAsHighAsItWasToBeWhenTheyWereLaidOut) {
+  for (const bool looked : {false, true}) {
+    QRNEdit& bits = panel().Items().AddParameter("", qrnTypeBitfield)->Control();
+    bits.SetValueCount(4);
+    panel().LayoutControls(false);
+    if (looked) bits.lblUnit();
+    bits.SetValueCount(1);
+    EXPECT_EQ(bits.CurrentEditor()->Parent()->Height(), 4 * (13 + 2) + 5);
+  }
+}
+
+TEST_F(UnseenRows, ArrangeNoEditorThatIsHalfMade) {
+  panel().realise();
+  QRNEdit& unseen = row(50);
+  unseen.SetScaleMode(1);
+  unseen.SetValueType(qrnTypeList);
+  unseen.SetValueForeColor(0xFF);
+  EXPECT_EQ(unseen.CurrentEditor()->Parent()->Height(), 21 * 15);
+}
+
+TEST_F(UnseenRows, ArePaintedWhenTheyComeToAPanelThatIsShown) {
+  panel().realise();
+  paint();
+  auto& peer = static_cast<headless::HeadlessPeer&>(*panel().peer());
+  peer.invalidated.clear();
+  const auto added = panel().Items().AddParameter("new", qrnTypeLong);
+  ASSERT_FALSE(peer.invalidated.empty());
+  EXPECT_TRUE(peer.invalidated.front().intersects(added->Control().onSurface()));
+}
+
+TEST_F(UnseenRows, TakeAnotherFontWhenTheyHaveACheckBoxThatNobodyHasLookedAt) {
+  panel().realise();
+  QRNEdit& unseen = row(50);
+  unseen.SetValueType(qrnTypeBoolean);
+  const host::Editor& box = *unseen.CurrentEditor();
+  const auto large = std::make_shared<host::Font>("Serif", 20);
+  unseen.SetFont(large);
+  EXPECT_EQ(box.Font(), large);
+}
+
 TEST_F(UnseenRows, HoldTheirValuesAndShowThemOnceTheyAreSeen) {
   row(50).SetValue(Variant(42));
   row(51).SetValueType(qrnTypeHexadecimal);
