@@ -17,9 +17,8 @@
 
 namespace qrn {
 
-class FirstError;
-
 class clsQRNArray;
+class FirstError;
 
 /// One parameter of a device as a row: caption, value editor, unit and up to two status icons.
 /// Lengths are in the row's own scale (pixels unless ScaleMode says otherwise).

@@ -115,9 +115,10 @@ double QRNEdit::overhead(double spacing) const {
   return icons + (parts - 1) * spacing;
 }
 
-// Hiding the focused editor ends the edit, and who hears of that may do anything, fail included.
 void QRNEdit::layOut() {
   if (!redraw_) return;
+  if (editorShown_ == valueVisible_) return arrangeLater();
+  // Hiding the focused editor ends the edit, and who hears of that may do anything, fail included.
   const WeakRef<QRNEdit> self(this);
   FirstError error;
   showEditor(error);
@@ -126,7 +127,6 @@ void QRNEdit::layOut() {
 }
 
 void QRNEdit::showEditor(FirstError& error) {
-  if (editorShown_ == valueVisible_) return;
   editorShown_ = valueVisible_;
   const WeakRef<QRNEdit> self(this);
   // First what can have the focus: within a hidden frame it could be given back.
