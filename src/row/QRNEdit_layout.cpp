@@ -129,12 +129,8 @@ void QRNEdit::layOut() {
 void QRNEdit::showEditor(FirstError& error) {
   editorShown_ = valueVisible_;
   const WeakRef<QRNEdit> self(this);
-  // First what can have the focus: within a hidden frame it could be given back.
-  for (const bool inner : {true, false}) {
-    host::Control* const part = inner ? editor_.inner() : editor_.frame();
-    if (part) error.of([&] { part->SetVisible(editorShown_); });
-    if (!self) return;
-  }
+  if (editor_.frame()) error.of([&] { editor_.frame()->SetVisible(editorShown_); });
+  if (self && editor_.inner()) error.of([&] { editor_.inner()->SetVisible(editorShown_); });
 }
 
 RowParts& QRNEdit::seenParts() {
