@@ -131,10 +131,10 @@ std::string lowered(std::string_view ascii) {
   return result;
 }
 
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
+std::string_view trimmed(std::string_view text, std::string_view blanks) {
+  const auto first = text.find_first_not_of(blanks);
   if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
 std::string replaced(std::string_view text, std::string_view what, std::string_view by) {

@@ -26,7 +26,7 @@ inline bool sameName(std::string_view a, std::string_view b) {
 std::size_t nameHash(std::string_view name);
 
 std::string lowered(std::string_view ascii);
-std::string_view trimmed(std::string_view text);
+std::string_view trimmed(std::string_view text, std::string_view blanks = " \t\r\n");
 std::string replaced(std::string_view text, std::string_view what, std::string_view by);
 
 }  // namespace qrn::text

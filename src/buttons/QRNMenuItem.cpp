@@ -3,11 +3,6 @@
 #include "diag/QRNErrors.h"
 
 namespace qrn {
-namespace {
-
-constexpr std::int32_t kHoverInterval = 70;  // milliseconds
-
-}  // namespace
 
 QRNMenuItem::QRNMenuItem() { Move(0, 0, 120, 28); }
 
@@ -23,7 +18,7 @@ void QRNMenuItem::show() {
   }
 }
 
-void QRNMenuItem::terminate() { stopHitTracking(); }
+void QRNMenuItem::terminate() { hover_.stop(); }
 
 void QRNMenuItem::SetBackColor(host::Color color) {
   if (color == backColor()) return;
@@ -52,7 +47,7 @@ void QRNMenuItem::SetButtonMode(qrnButtonMode mode) {
   if (mode == buttonMode_) return;
   if (mode == qrnbuttonNone) {
     mouseOver_ = spacePressed_ = hasFocus_ = keyboardFocus_ = false;
-    stopHitTracking();
+    hover_.stop();
   }
   store(buttonMode_, mode, "ButtonMode");
 }
@@ -93,7 +88,7 @@ void QRNMenuItem::showContextMenu(bool atKeyboard) {
 // What went down on a button that is hidden comes up on another one.
 void QRNMenuItem::release() {
   leftButtonDown_ = rightButtonDown_ = spacePressed_ = mouseOver_ = false;
-  stopHitTracking();
+  hover_.stop();
 }
 
 bool QRNMenuItem::isCursorOver() {
@@ -120,22 +115,11 @@ void QRNMenuItem::tellFacts(host::AccessibleFacts& facts) const {
   if (takesClicks()) facts.action = host::AccessibleAction::Press;
 }
 
-void QRNMenuItem::startHitTracking() {
-  auto& timer = static_cast<host::Timer&>(controls().add("VB.Timer", "tmrHit", *this));
-  tmrHit_ = WeakRef<host::Timer>(&timer);
-  tick_ = timer.Tick.connect([this] {
-    mouseOver_ = Enabled() && isCursorOver();
-    if (mouseOver_) return;
-    stopHitTracking();
-    invalidate();
-  });
-  timer.SetInterval(kHoverInterval);
-}
-
-void QRNMenuItem::stopHitTracking() {
-  if (!tmrHit_) return;
-  tick_.disconnect();
-  controls().remove("tmrHit");
+void QRNMenuItem::lookAgain() {
+  mouseOver_ = Enabled() && isCursorOver();
+  if (mouseOver_) return;
+  hover_.stop();
+  invalidate();
 }
 
 void QRNMenuItem::mouseDown(host::MouseButton button, std::int16_t, Point) {
@@ -153,11 +137,11 @@ void QRNMenuItem::mouseDown(host::MouseButton button, std::int16_t, Point) {
 void QRNMenuItem::mouseMove(std::int16_t, std::int16_t, Point at) {
   if (!takesClicks()) return;
   mouseOver_ = contains(at);
-  if (mouseOver_ == static_cast<bool>(tmrHit_)) return;
+  if (mouseOver_ == hover_.active()) return;
   if (mouseOver_)
-    startHitTracking();
+    hover_.start(*this, [this] { lookAgain(); });
   else
-    stopHitTracking();
+    hover_.stop();
   invalidate();
 }
 

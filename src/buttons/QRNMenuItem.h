@@ -4,9 +4,9 @@
 #include <string>
 
 #include "buttons/context_menu.h"
+#include "buttons/hover_watch.h"
 #include "enums/enumerations.h"
 #include "host/picture.h"
-#include "host/timer.h"
 #include "host/user_control.h"
 
 namespace qrn {
@@ -130,9 +130,8 @@ class QRNMenuItem final : public host::UserControl {
 
   bool takesClicks() const { return buttonMode_ != qrnbuttonNone; }
   bool isCursorOver();
+  void lookAgain();
   bool doClick();
-  void startHitTracking();
-  void stopHitTracking();
   void release();
   void showContextMenu(bool atKeyboard);
 
@@ -147,8 +146,7 @@ class QRNMenuItem final : public host::UserControl {
   host::PicturePtr icon_;
   host::PicturePtr iconDisabled_;
   ContextMenu menu_;
-  WeakRef<host::Timer> tmrHit_;  // the host may remove it like any control
-  Connection tick_;
+  HoverWatch hover_;
   std::int32_t alignment_ = 0;
   std::int32_t iconAlignment_ = 0;
   std::int32_t margin_ = 6;

@@ -21,12 +21,6 @@ std::vector<std::string_view> linesOf(std::string_view text) {
   }
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 // How much of a paragraph goes into one line, in code points: a proportional estimate first, then back to the
 // last blank.
 template <class TextWidth>
@@ -52,7 +46,7 @@ std::string QRNMenuItem::WrapCaption(std::string caption, double width) const {
   const auto textWidth = [this](std::string_view text) { return TextWidth(text); };
   std::string result;
   for (std::string_view paragraph : linesOf(caption)) {
-    paragraph = withoutBlanks(paragraph);
+    paragraph = text::trimmed(paragraph, " ");
     while (!paragraph.empty()) {
       result += kLineEnd;
       if (textWidth(paragraph) <= width) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/ascii.h"
 #include "base/text.h"
 
 namespace qrn::richtext {
@@ -9,15 +10,9 @@ namespace {
 
 using Kind = RtfToken::Kind;
 
-bool isLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-int hexDigit(char c) {
-  if (isDigit(c)) return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
+using ascii::digitValue;
+using ascii::isDigit;
+using ascii::isLetter;
 
 }  // namespace
 
@@ -70,8 +65,8 @@ std::optional<std::int32_t> RtfTokens::number() {
 // Without two digits behind it nothing was meant; what stands there is read on its own.
 RtfToken RtfTokens::hex() {
   if (rest_.size() < 2) return rest_ = {}, RtfToken{};
-  const int high = hexDigit(rest_[0]), low = hexDigit(rest_[1]);
-  if (high < 0 || low < 0) return {.kind = Kind::Symbol, .byte = '\''};
+  const int high = digitValue(rest_[0]), low = digitValue(rest_[1]);
+  if (high > 15 || low > 15) return {.kind = Kind::Symbol, .byte = '\''};
   rest_.remove_prefix(2);
   return {.kind = Kind::Hex, .byte = static_cast<unsigned char>(high * 16 + low)};
 }

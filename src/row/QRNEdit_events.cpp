@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "base/first_error.h"
 #include "base/scoped_flag.h"
 #include "diag/DebugTrace.h"
@@ -9,7 +11,6 @@
 namespace qrn {
 namespace {
 
-constexpr std::int32_t kHoverInterval = 70;  // milliseconds
 constexpr std::int32_t kTraceLevel = 0;
 
 }  // namespace
@@ -200,7 +201,7 @@ void QRNEdit::showContextMenu(bool atKeyboard) {
 
 bool QRNEdit::isTracked(const RowIcon& icon) const {
   const IconTracking* tracking = extras_ ? extras_->tracking.get() : nullptr;
-  return tracking && tracking->timer && tracking->image == &imageOf(icon);
+  return tracking && tracking->watch.active() && tracking->image == &imageOf(icon);
 }
 
 void QRNEdit::trackIcon(const RowIcon& icon) {
@@ -208,22 +209,17 @@ void QRNEdit::trackIcon(const RowIcon& icon) {
   stopTracking();
   auto tracking = std::make_unique<IconTracking>();
   tracking->image = &imageOf(icon);
-  auto& timer = static_cast<host::Timer&>(UserControl::controls().add("VB.Timer", "tmrHit", *this));
-  tracking->timer = WeakRef<host::Timer>(&timer);
-  tracking->tick = timer.Tick.connect([this, image = tracking->image] {
+  tracking->watch.start(*this, [this, image = tracking->image] {
     const Point cursor = platform().cursor() - platform().screenPosition(root());
     if (!image->shown() || !image->visibleOnSurface().contains(cursor)) stopTracking();
   });
-  timer.SetInterval(kHoverInterval);
   extras().tracking = std::move(tracking);
   invalidate();
 }
 
 void QRNEdit::stopTracking() {
   if (!extras_ || !extras_->tracking) return;
-  const WeakRef<host::Timer> timer = extras_->tracking->timer;
-  extras_->tracking.reset();
-  if (timer) UserControl::controls().remove("tmrHit");
+  std::exchange(extras_->tracking, nullptr)->watch.stop();
   invalidate();
 }
 

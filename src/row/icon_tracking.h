@@ -1,17 +1,14 @@
 #pragma once
 
-#include "base/event.h"
-#include "base/weak_ref.h"
+#include "buttons/hover_watch.h"
 #include "host/image.h"
-#include "host/timer.h"
 
 namespace qrn {
 
 /// The icon in button mode that the mouse is over, watched until the cursor has left it.
 struct IconTracking {
   host::Image* image = nullptr;
-  WeakRef<host::Timer> timer;  // the host may remove it like any control
-  Connection tick;
+  HoverWatch watch;
 };
 
 }  // namespace qrn

@@ -6,6 +6,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "base/ascii.h"
 #include "base/letter_case.h"
 
 namespace qrn {
@@ -29,10 +30,10 @@ using Tokens = std::vector<Token>;
 // No written date has more parts.
 constexpr std::size_t kMostTokens = 24;
 
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+using ascii::isBlank;
+using ascii::isDigit;
 bool isLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= 0x80;
+  return ascii::isLetter(c) || static_cast<unsigned char>(c) >= 0x80;
 }
 
 template <class Belongs>

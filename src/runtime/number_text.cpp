@@ -3,21 +3,17 @@
 #include <algorithm>
 #include <charconv>
 
+#include "base/ascii.h"
 #include "runtime/errors.h"
 
 namespace qrn {
 namespace {
 
+using ascii::digitValue;
+using ascii::isDigit;
+
 // Far beyond every type's range, and far from the limits of the exponent's own arithmetic.
 constexpr std::int64_t kHugeExponent = 1000000000;
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-int digitValue(char c) {
-  if (isDigit(c)) return c - '0';
-  const char lower = static_cast<char>(c | 0x20);
-  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : 16;
-}
 
 class NumberReader {
  public:

@@ -4,20 +4,16 @@
 #include <limits>
 #include <string>
 
+#include "base/ascii.h"
 #include "runtime/errors.h"
 #include "runtime/number_text.h"
 
 namespace qrn {
 namespace {
 
-bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-int hexDigit(char c) {
-  if (isDigit(c)) return c - '0';
-  const char lower = static_cast<char>(c | 0x20);
-  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : 16;
-}
+using ascii::digitValue;
+using ascii::isBlank;
+using ascii::isDigit;
 
 // Looks at a text as if it had no blanks.
 class Scanner {
@@ -92,8 +88,8 @@ double readBits(Scanner& scanner) {
   const int shift = letter == 'h' ? 4 : 3;
   if (letter == 'h' || letter == 'o') scanner.skip();
   std::uint64_t bits = 0;
-  for (; hexDigit(scanner.peek()) < (1 << shift); scanner.skip()) {
-    bits = (bits << shift) | static_cast<std::uint64_t>(hexDigit(scanner.peek()));
+  for (; digitValue(scanner.peek()) < (1 << shift); scanner.skip()) {
+    bits = (bits << shift) | static_cast<std::uint64_t>(digitValue(scanner.peek()));
     if (bits > std::numeric_limits<std::uint32_t>::max()) raiseRunTimeError(kOverflow);
   }
   const bool isLong = scanner.peek() == '&' || bits > std::numeric_limits<std::uint16_t>::max();

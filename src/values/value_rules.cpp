@@ -49,12 +49,6 @@ bool admits(const Range& range, const Variant& value) {
   return !(range.lowest && number < Val(*range.lowest)) && !(range.highest && number > Val(*range.highest));
 }
 
-std::string_view withoutBlanks(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
 }  // namespace
 
 RuleResult CheckTextRule(const Variant& value, const TextRule& rule) {
@@ -74,7 +68,7 @@ RuleResult CheckNumberRule(const Variant& value, std::string_view rule) {
   if (rule.find(kTo) == std::string_view::npos) return {true, qrnErrorNone};
   while (!rule.empty()) {
     const auto end = std::min(rule.find(';'), rule.size());
-    const auto range = rangeOf(withoutBlanks(rule.substr(0, end)));
+    const auto range = rangeOf(text::trimmed(rule.substr(0, end), " "));
     rule.remove_prefix(std::min(end + 1, rule.size()));
     bool admitted = false;
     // A token that can't be evaluated admits nothing.

@@ -6,8 +6,8 @@
 
 #include "host/class_table.h"
 #include "runtime/conversions.h"
-#include "runtime/errors.h"
 #include "runtime/locale.h"
+#include "support/error_of.h"
 #include "support/panel_fixture.h"
 
 namespace qrn {
@@ -29,17 +29,6 @@ inline host::PicturePtr picture(int width, int height) {
   const auto pixels = static_cast<std::size_t>(width * height);
   return std::make_shared<host::Picture>(
       std::vector<host::Picture::Bitmap>{{width, height, std::vector<std::uint32_t>(pixels, 0xFF000000)}});
-}
-
-/// The number of the run-time error that an action raises, 0 for none.
-template <class Action>
-std::int32_t errorOf(Action&& action) {
-  try {
-    action();
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
 }
 
 /// The events of one row with their arguments.

@@ -13,21 +13,11 @@
 #include "platform/headless/headless_platform.h"
 #include "platform/headless/user.h"
 #include "runtime/errors.h"
+#include "support/error_of.h"
 
 namespace qrn::test {
 
 using Heard = std::vector<std::string>;
-
-/// The number of the run-time error that an action raises, 0 for none.
-template <class Action>
-std::int32_t errorOf(Action&& action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-  return 0;
-}
 
 /// The description of the run-time error that an action raises.
 template <class Action>

@@ -1,6 +1,5 @@
 #include "runtime/date_format.h"
-#include "runtime/format.h"
-#include "runtime/outcome.h"
+#include "runtime/format_rows.h"
 
 namespace qrn::test {
 namespace {
@@ -8,21 +7,6 @@ namespace {
 const Date kMorning = joinDate({2004, 1, 5, 9, 8, 7});     // a Monday
 const Date kEvening = joinDate({2004, 2, 29, 21, 45, 0});  // a leap day, a Sunday
 const Date kEarly = joinDate({1850, 7, 14, 6, 0, 0});      // before the count of days begins
-
-struct FormatRow {
-  Variant value;
-  std::string pattern;
-  std::string expected;
-};
-
-void expectFormats(std::initializer_list<FormatRow> rows) {
-  int line = 0;
-  for (const FormatRow& row : rows) {
-    ++line;
-    EXPECT_EQ(outcome([&] { return Format(row.value, row.pattern); }), row.expected)
-        << "row " << line << ", pattern " << row.pattern;
-  }
-}
 
 TEST(FormatOfDates, WritesDayMonthAndYear) {
   expectFormats({

@@ -1,27 +1,11 @@
 // Format, row by row: whole patterns as panels use them, at the edges of numbers, calendar and clock.
-#include "runtime/format.h"
-#include "runtime/outcome.h"
+#include "runtime/format_rows.h"
 
 namespace qrn::test {
 namespace {
 
-struct Example {
-  Variant value;
-  std::string pattern;
-  std::string expected;
-};
-
-void expectExamples(std::initializer_list<Example> examples) {
-  int line = 0;
-  for (const Example& example : examples) {
-    ++line;
-    EXPECT_EQ(outcome([&] { return Format(example.value, example.pattern); }), example.expected)
-        << "row " << line << ", pattern " << example.pattern;
-  }
-}
-
 TEST(FormatExamples, OneNumberInEachSign) {
-  expectExamples({
+  expectFormats({
       {5, "0", "5"},
       {-5, "0", "-5"},
       {0.5, "0", "1"},
@@ -59,7 +43,7 @@ TEST(FormatExamples, OneNumberInEachSign) {
 
 TEST(FormatExamples, FourSectionsForEveryKindOfNumber) {
   constexpr const char* kSections = "+0.0;-0.00;\"none\";\"?\"";
-  expectExamples({
+  expectFormats({
       {1.25, kSections, "+1.3"},
       {-1.255, kSections, "-1.26"},
       {0.0, kSections, "none"},
@@ -84,7 +68,7 @@ TEST(FormatExamples, FourSectionsForEveryKindOfNumber) {
 
 TEST(FormatExamples, NumbersAtTheirLimits) {
   const std::string zeros(12, '0');
-  expectExamples({
+  expectFormats({
       {CDec("79228162514264337593543950335"), "0", "79228162514264337593543950335"},
       {CDec("-79228162514264337593543950335"), "0.0", "-79228162514264337593543950335.0"},
       {CDec("7.9228162514264337593543950335"), "0." + std::string(28, '0'), "7.9228162514264337593543950335"},
@@ -116,7 +100,7 @@ TEST(FormatExamples, NumbersAtTheirLimits) {
 
 TEST(FormatExamples, DatesAtTheEdgesOfYearsAndCalendar) {
   constexpr const char* kDay = "ddd d mmm yyyy";
-  expectExamples({
+  expectFormats({
       {joinDate({100, 1, 1}), kDay, "Fri 1 Jan 0100"},
       {joinDate({1582, 10, 15}), kDay, "Fri 15 Oct 1582"},
       {joinDate({1600, 2, 29}), kDay, "Tue 29 Feb 1600"},
@@ -156,7 +140,7 @@ TEST(FormatExamples, TheClockFromMidnightToMidnight) {
   const auto at = [](int hour, int minute, int second) {
     return Variant(joinDate({2004, 7, 5, hour, minute, second}));
   };
-  expectExamples({
+  expectFormats({
       {at(0, 0, 0), "h:nn AM/PM", "12:00 AM"},
       {at(0, 59, 59), "h:nn:ss AM/PM", "12:59:59 AM"},
       {at(1, 0, 0), "hh:nn am/pm", "01:00 am"},
@@ -187,7 +171,7 @@ TEST(FormatExamples, TheClockFromMidnightToMidnight) {
 }
 
 TEST(FormatExamples, TextsInTheirPlaces) {
-  expectExamples({
+  expectFormats({
       {"HELLO", "<", "hello"},
       {"This is it", ">", "THIS IS IT"},
       {"5551234", "@@@-@@@@", "555-1234"},
@@ -210,7 +194,7 @@ TEST(FormatExamples, TextsInTheirPlaces) {
 TEST(FormatExamples, GermanNumbersAndDates) {
   const LocaleScope german(deDE());
   const Date leapDay = joinDate({2004, 2, 29, 21, 5, 9});
-  expectExamples({
+  expectFormats({
       {1234567.891, "#,##0.00", "1.234.567,89"},
       {-1234.5, "#,##0.0;(#,##0.0)", "(1.234,5)"},
       {0.256, "0.0%", "25,6%"},

@@ -1,28 +1,12 @@
 #include <cmath>
 #include <limits>
 
-#include "runtime/format.h"
-#include "runtime/outcome.h"
+#include "runtime/format_rows.h"
 
 namespace qrn::test {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-struct FormatRow {
-  Variant value;
-  std::string pattern;
-  std::string expected;
-};
-
-void expectFormats(std::initializer_list<FormatRow> rows) {
-  int line = 0;
-  for (const FormatRow& row : rows) {
-    ++line;
-    EXPECT_EQ(outcome([&] { return Format(row.value, row.pattern); }), row.expected)
-        << "row " << line << ", pattern " << row.pattern;
-  }
-}
 
 TEST(Format, FillsThePlacesOfANumber) {
   expectFormats({

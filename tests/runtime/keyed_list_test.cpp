@@ -6,9 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "support/error_of.h"
+
 namespace qrn {
 namespace {
 
+using test::errorOf;
 using List = KeyedList<std::string>;
 
 /// Fills a list with "k1", "k2", … and the values "v1", "v2", …
@@ -25,16 +28,6 @@ std::vector<std::string> keysOf(const List& list) {
                                               : entry.key + " is at " + std::to_string(entry.position));
   }
   return keys;
-}
-
-template <class Action>
-std::int32_t errorOf(Action&& action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
-  return 0;
 }
 
 // Below and above the length from which on an index is kept.

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "runtime/outcome.h"
+#include "support/error_of.h"
 
 namespace qrn::test {
 
@@ -140,17 +141,6 @@ inline std::string described(const Variant& value) {
   return text + " " + outcome([&] {
            return value.type() == Variant::Type::Date ? shown(*value.get<Date>()) : CStr(value);
          });
-}
-
-/// The number of the error that an action raises, 0 for none. Anything else that is thrown fails the test.
-template <class Action>
-std::int32_t errorOf(Action&& action) {
-  try {
-    static_cast<void>(action());
-    return 0;
-  } catch (const RunTimeError& error) {
-    return error.number();
-  }
 }
 
 }  // namespace qrn::test
