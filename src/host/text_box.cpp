@@ -37,10 +37,35 @@ std::string TextBox::shownText() const {
   return stars;
 }
 
+// A program may set letters and lengths that the user can't type. What the user leaves of those stays as it
+// is.
+std::string TextBox::admitted(std::string_view typed, std::int32_t caret) const {
+  const std::size_t room = std::min(text_.size(), typed.size());
+  const auto isInside = [&](std::size_t at) { return at < typed.size() && (typed[at] & 0xC0) == 0x80; };
+  // Where letters are doubled the caret tells which of them is new: it stands behind that.
+  const std::size_t behind =
+      caret < 0 ? 0 : typed.size() - text::byteOffset(typed, static_cast<std::size_t>(caret));
+  std::size_t end = 0;
+  while (end < std::min(behind, room) && typed[typed.size() - 1 - end] == text_[text_.size() - 1 - end])
+    ++end;
+  while (end > 0 && isInside(typed.size() - end)) --end;
+  std::size_t start = 0;
+  while (start < room - end && typed[start] == text_[start]) ++start;
+  while (start > 0 && isInside(start)) --start;
+
+  std::string inserted(typed.substr(start, typed.size() - end - start));
+  if (upperCase_) inserted = qrn::upperCase(std::string_view(inserted));
+  if (maxLength_ > 0) {
+    const std::size_t most = std::max(static_cast<std::size_t>(maxLength_), text::length(text_));
+    const std::size_t kept =
+        text::length(typed.substr(0, start)) + text::length(typed.substr(typed.size() - end));
+    inserted = text::slice(inserted, 0, most - std::min(most, kept));
+  }
+  return std::string(typed.substr(0, start)).append(inserted).append(typed.substr(typed.size() - end));
+}
+
 void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength) {
-  std::string wanted(text);
-  if (upperCase_) wanted = qrn::upperCase(std::string_view(wanted));
-  if (maxLength_ > 0) wanted = text::slice(wanted, 0, static_cast<std::size_t>(maxLength_));
+  std::string wanted = admitted(text, selStart);
   if (locked_ || !enabledUpToSurface()) wanted = text_;
   const bool corrected = wanted != text;
   const bool changed = wanted != text_;

@@ -46,6 +46,7 @@ class TextBox final : public Editor {
 
  private:
   void store(std::string text);
+  std::string admitted(std::string_view typed, std::int32_t caret) const;
 
   std::string text_;
   std::unique_ptr<std::string> passwordChar_;  // null while the text is shown

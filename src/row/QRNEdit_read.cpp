@@ -3,6 +3,7 @@
 #include "row/QRNEdit.h"
 #include "runtime/conversions.h"
 #include "runtime/errors.h"
+#include "runtime/hex.h"
 #include "runtime/val.h"
 #include "values/bit_string.h"
 #include "values/hexadecimal.h"
@@ -46,6 +47,21 @@ bool sameContent(const Variant& content, const Variant& baseline) {
   if (content.isString()) return baseline.isString() && textOf(content) == textOf(baseline);
   const bool isNumber = isNumeric(baseline) || baseline.type() == Variant::Type::Date;
   return isNumber && CDbl(content) == CDbl(baseline);
+}
+
+// The number of the digits, or the text itself where no Long holds that.
+Variant hexadecimalContent(const std::string& text) {
+  Variant content(text);
+  ignoringErrors([&] { content = HexToLong(text); });
+  return content;
+}
+
+// Such a text is one that was accepted, or the one that the row has shown of a negative number.
+bool sameDigits(const Variant& text, const Variant& baseline) {
+  if (sameContent(text, baseline)) return true;
+  std::string shown;
+  ignoringErrors([&] { shown = Hex(baseline); });
+  return textOf(text) == shown;
 }
 
 bool sameBits(std::string_view content, std::string_view baseline) {
@@ -137,7 +153,7 @@ std::optional<Variant> QRNEdit::editorContent() const {
     case qrnTypeList: return Variant(editor_.list()->ListIndex());
     case qrnTypeBoolean: return Variant(std::int32_t{editor_.ticked()});
     case qrnTypeBitfield: return Variant(bitsOfEditor());
-    case qrnTypeHexadecimal: return Variant(HexToLong(editor_.text()));
+    case qrnTypeHexadecimal: return hexadecimalContent(editor_.text());
     default:
       return editor_.kind() == ValueEditor::Kind::TextBox ? std::optional(Variant(editor_.text()))
                                                           : std::nullopt;
@@ -147,6 +163,7 @@ std::optional<Variant> QRNEdit::editorContent() const {
 bool QRNEdit::differs(const Variant& content) const {
   if (valueType_ == qrnTypeBitfield) return !sameBits(textOf(content), textOf(displayBaseline_));
   if (displayBaseline_.isEmpty()) return !isUntouched(content, valueType_);
+  if (valueType_ == qrnTypeHexadecimal && content.isString()) return !sameDigits(content, displayBaseline_);
   return !sameContent(content, displayBaseline_);
 }
 

@@ -19,6 +19,7 @@ struct QRNEditTable {
     (static_cast<C&>(control).settings_.*Set)(host::stringFrom(value));
   }
   static void restoreText(host::UserControl& control, const Variant& value);
+  static void restoreFormat(host::UserControl& control, const Variant& value);
   static void emptyEditor(C& row);
 
   static std::vector<host::Property> rowProperties();
@@ -41,6 +42,16 @@ void QRNEditTable::restoreText(host::UserControl& control, const Variant& value)
   row.settings_.setFormat("");
   ignoringErrors([&] { row.SetValueText(shown); });
   row.settings_.setFormat(format);
+}
+
+// A text is read like a typed one, with one separator, that of the decimals. Where digits are grouped its
+// first separator may be another; that is known only now.
+void QRNEditTable::restoreFormat(host::UserControl& control, const Variant& value) {
+  restoreSetting<&ValueSettings::setFormat>(control, value);
+  auto& row = static_cast<C&>(control);
+  const auto* restored = row.storedValue_.get<std::string>();
+  const bool groups = row.ValueFormat().find(',') != std::string::npos;
+  if (row.valueType_ == qrnTypeDouble && restored && groups) row.showText(*restored);
 }
 
 // As the editor of a new row is.
@@ -116,8 +127,7 @@ std::vector<host::Property> QRNEditTable::valueProperties() {
           .restoredIntoField(restoreSetting<&ValueSettings::setRule>),
       setter<&C::ValueCharSet, &C::SetValueCharSet>("ValueCharSet", 37, "")
           .restoredIntoField(restoreSetting<&ValueSettings::setCharSet>),
-      setter<&C::ValueFormat, &C::SetValueFormat>("ValueFormat", 38, "")
-          .restoredIntoField(restoreSetting<&ValueSettings::setFormat>),
+      setter<&C::ValueFormat, &C::SetValueFormat>("ValueFormat", 38, "").restoredIntoField(restoreFormat),
   };
 }
 

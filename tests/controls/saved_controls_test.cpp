@@ -125,6 +125,34 @@ TEST_F(SavedRow, ShowsTheTextOfABagAsItStandsWhateverItsFormatWasBefore) {
   EXPECT_EQ(row().ValueText(), "1.23");
 }
 
+TEST_F(SavedRow, KeepsAValueWhoseDigitsAreGrouped) {
+  for (const Locale& locale : {enUS(), deDE()}) {
+    setCurrentLocale(locale);
+    for (const char* format : {"#,##0", "#,##0.00"}) {
+      SCOPED_TRACE(locale.decimalSeparator + " " + format);
+      useType(qrnTypeDouble);
+      row().SetValueFormat(format);
+      row().SetValue(Variant(1234));
+      const std::string shown = row().ValueText();
+      useBag(saved());
+      EXPECT_EQ(row().ValueText(), shown);
+      EXPECT_EQ(row().Value(), Variant(1234.0));
+      EXPECT_FALSE(row().ValueChanged());
+    }
+  }
+}
+
+TEST_F(SavedRow, ReadsAValueThatWasSavedWhereThePointIsAComma) {
+  useType(qrnTypeDouble);
+  row().SetValueFormat("0.00");
+  row().SetValue(Variant(3.5));
+  const PropertyBag bag = saved();
+  setCurrentLocale(deDE());
+  useBag(bag);
+  EXPECT_EQ(row().ValueText(), "3,50");
+  EXPECT_EQ(row().Value(), Variant(3.5));
+}
+
 TEST_F(SavedRow, IsEmptiedByABagWithoutAText) {
   for (int type = qrnTypeString; type <= qrnTypeHexadecimal; ++type) {
     useBag({});

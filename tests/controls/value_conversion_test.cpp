@@ -453,13 +453,18 @@ TEST_F(AValue, CountsAsChangedAsSoonAsItsTextDiffersEvenIfTheNumberDoesNot) {
   EXPECT_FALSE(row().ValueChanged());
 }
 
-TEST_F(AValue, WithATooLargeHexadecimalTextReadsAsUnchanged) {
+TEST_F(AValue, WithATooLargeHexadecimalTextIsChangedUntilItIsAccepted) {
   show(qrnTypeHexadecimal, Variant(1));
-  type("80000000");
-  EXPECT_FALSE(row().ValueChanged());
-  raised();
-  row().SetValueChanged(false);
-  EXPECT_EQ(raised(), Events{});
+  for (const char* text : {"80000000", "123456789", "31.12.1999"}) {
+    type(text);
+    EXPECT_TRUE(row().ValueChanged()) << text;
+    raised();
+    row().SetValueChanged(false);
+    EXPECT_EQ(raised(), (Events{"StatusChange"})) << text;
+    EXPECT_FALSE(row().ValueChanged()) << text;
+  }
+  type("1");
+  EXPECT_TRUE(row().ValueChanged());
 }
 
 TEST_F(AValue, OfAnArrayAlwaysCountsAsChanged) {

@@ -144,11 +144,13 @@ TEST_F(ARowAtTheEdge, ShowsAHexadecimalDateUnchanged) {
   EXPECT_FALSE(row().ValueChanged());
 }
 
-TEST_F(ARowAtTheEdge, CanNotTellAChangeOfATextThatNoLongHolds) {
+TEST_F(ARowAtTheEdge, TellsAChangeOfATextThatNoLongHolds) {
   useType(qrnTypeHexadecimal);
   row().SetValue(Variant(-1));
   EXPECT_EQ(textBox().Text(), "FFFFFFFF");
   EXPECT_FALSE(row().ValueChanged());
+  type("FFFFFFFE");
+  EXPECT_TRUE(row().ValueChanged());
 }
 
 TEST_F(ARowAtTheEdge, TakesAnEmptyTextWhateverItsCharacters) {

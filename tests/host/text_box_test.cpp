@@ -114,6 +114,28 @@ TEST_F(TextBoxes, TakeALongerTextFromTheProgramAllTheSame) {
   EXPECT_EQ(box.Text(), "abcdef");
 }
 
+TEST_F(TextBoxes, LeaveOfALongerTextOfTheProgramWhatTheUserLeaves) {
+  box.SetMaxLength(2);
+  box.SetText("12345");
+  box.select(5, 0);
+  user.presses(host::key::Back);
+  EXPECT_EQ(box.Text(), "1234");
+  box.select(1, 1);
+  user.types("x");
+  EXPECT_EQ(box.Text(), "1x34");
+  user.types("y");
+  EXPECT_EQ(box.Text(), "1x34") << "it does not become longer";
+  box.userTyped("1xyz34", 4);
+  EXPECT_EQ(box.Text(), "1x34") << "nor by a paste";
+}
+
+TEST_F(TextBoxes, CutAPasteInTheMiddleAndNotWhatIsBehindIt) {
+  box.SetMaxLength(5);
+  box.SetText("abcd");
+  box.userTyped("abXYZcd", 5);
+  EXPECT_EQ(box.Text(), "abXcd");
+}
+
 TEST_F(TextBoxes, HaveNoMaximumAtZero) {
   user.types(std::string(100, 'x'));
   EXPECT_EQ(box.Text().size(), 100u);
@@ -157,6 +179,22 @@ TEST_F(TextBoxes, LeaveATextOfTheProgramInItsCase) {
   box.setUpperCase(true);
   box.SetText("abc");
   EXPECT_EQ(box.Text(), "abc");
+}
+
+TEST_F(TextBoxes, TurnIntoCapitalsOnlyWhatIsTyped) {
+  box.setUpperCase(true);
+  box.SetText("abc\u00e8");
+  box.select(1, 0);
+  user.types("a");
+  EXPECT_EQ(box.Text(), "aAbc\u00e8") << "the one before the caret is new";
+  box.select(5, 0);
+  user.presses(host::key::Back);
+  EXPECT_EQ(box.Text(), "aAbc");
+  box.userTyped("aAb\u00e9c", 4);
+  EXPECT_EQ(box.Text(), "aAb\u00c9c");
+  box.SetText("\u00e8");
+  box.userTyped("\u00e9", 1);
+  EXPECT_EQ(box.Text(), "\u00c9") << "two letters that begin with the same byte";
 }
 
 TEST_F(TextBoxes, ShowTheirPasswordCharacterForEveryCharacter) {

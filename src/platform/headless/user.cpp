@@ -49,7 +49,9 @@ void edit(host::TextBox& box, std::string_view insert, int before, int after) {
   std::string result(text::slice(text, 0, from));
   result += insert;
   result += text::slice(text, to);
-  if (box.MaxLength() > 0 && text::length(result) > static_cast<std::size_t>(box.MaxLength())) return;
+  // A longer text of a program's may become shorter, not longer.
+  const std::size_t most = std::max(static_cast<std::size_t>(box.MaxLength()), text::length(text));
+  if (box.MaxLength() > 0 && text::length(result) > most) return;
   if (box.Locked() || !box.Enabled()) return;
   box.userTyped(result, static_cast<std::int32_t>(from + text::length(insert)));
 }
