@@ -1,6 +1,7 @@
 #include "base/letter_case.h"
 
 #include <cstddef>
+#include <cstdint>
 
 #include "base/text.h"
 
@@ -10,17 +11,24 @@ namespace {
 struct CaseRange {
   char32_t firstUpper;
   char32_t lastUpper;
-  char32_t distance;  // from an upper-case letter to its lower-case one
-  bool alternating;   // upper- and lower-case letters take turns in the range
+  std::int32_t distance;     // from an upper-case letter to its lower-case one
+  bool alternating = false;  // upper- and lower-case letters take turns in the range
 };
 
+// Latin, Greek, Cyrillic and Armenian.
 constexpr CaseRange kRanges[] = {
-    {U'A', U'Z', 32, false},           {U'\u00c0', U'\u00d6', 32, false}, {U'\u00d8', U'\u00de', 32, false},
-    {U'\u0100', U'\u012e', 1, true},   {U'\u0132', U'\u0136', 1, true},   {U'\u0139', U'\u0147', 1, true},
-    {U'\u014a', U'\u0176', 1, true},   {U'\u0179', U'\u017d', 1, true},   {U'\u0391', U'\u03a1', 32, false},
-    {U'\u03a3', U'\u03ab', 32, false}, {U'\u0400', U'\u040f', 80, false}, {U'\u0410', U'\u042f', 32, false},
-    {U'\u0460', U'\u0480', 1, true},
+    {0x41, 0x5a, 32},        {0xc0, 0xd6, 32},        {0xd8, 0xde, 32},          {0x100, 0x12e, 1, true},
+    {0x132, 0x136, 1, true}, {0x139, 0x147, 1, true}, {0x14a, 0x176, 1, true},   {0x178, 0x178, -121},
+    {0x179, 0x17d, 1, true}, {0x1cd, 0x1db, 1, true}, {0x1de, 0x1ee, 1, true},   {0x1f8, 0x21e, 1, true},
+    {0x222, 0x232, 1, true}, {0x386, 0x386, 38},      {0x388, 0x38a, 37},        {0x38c, 0x38c, 64},
+    {0x38e, 0x38f, 63},      {0x391, 0x3a1, 32},      {0x3a3, 0x3ab, 32},        {0x400, 0x40f, 80},
+    {0x410, 0x42f, 32},      {0x460, 0x480, 1, true}, {0x48a, 0x4be, 1, true},   {0x4c1, 0x4cd, 1, true},
+    {0x4d0, 0x52e, 1, true}, {0x531, 0x556, 48},      {0x1e00, 0x1e94, 1, true}, {0x1ea0, 0x1efe, 1, true},
 };
+
+char32_t moved(char32_t letter, std::int32_t distance) {
+  return static_cast<char32_t>(static_cast<std::int32_t>(letter) + distance);
+}
 
 bool isUpperIn(const CaseRange& range, char32_t letter) {
   if (letter < range.firstUpper || letter > range.lastUpper) return false;
@@ -48,14 +56,15 @@ std::string converted(std::string_view utf8, Convert convert) {
 
 char32_t upperCase(char32_t letter) {
   for (const CaseRange& range : kRanges) {
-    if (letter >= range.distance && isUpperIn(range, letter - range.distance)) return letter - range.distance;
+    const char32_t upper = moved(letter, -range.distance);
+    if (isUpperIn(range, upper)) return upper;
   }
   return letter;
 }
 
 char32_t lowerCase(char32_t letter) {
   for (const CaseRange& range : kRanges) {
-    if (isUpperIn(range, letter)) return letter + range.distance;
+    if (isUpperIn(range, letter)) return moved(letter, range.distance);
   }
   return letter;
 }

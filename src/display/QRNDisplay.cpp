@@ -44,12 +44,17 @@ void QRNDisplay::show() {
 }
 
 QRNImageList& QRNDisplay::ImageList() {
-  if (!imageList_) {
-    host::Control* own = controls().find("imlImages");
-    if (!own) own = &controls().add("QRNV16Controls2.QRNImageList", "imlImages", *this);
-    imageList_ = WeakRef<QRNImageList>(static_cast<QRNImageList*>(own));
-  }
+  if (!imageList_) imageList_ = WeakRef<QRNImageList>(&ownImageList());
   return *imageList_;
+}
+
+// An item may bear the name that it should have.
+QRNImageList& QRNDisplay::ownImageList() {
+  std::string name = "imlImages";
+  for (; host::Control* there = controls().find(name); name += '_') {
+    if (auto* own = dynamic_cast<QRNImageList*>(there)) return *own;
+  }
+  return static_cast<QRNImageList&>(controls().add("QRNV16Controls2.QRNImageList", name, *this));
 }
 
 // ---- setters ----

@@ -80,8 +80,9 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   /// Whether there is a title bar, and how it looks.
   qrnTitleStyle TitleStyle() const { return titleStyle_; }
   void SetTitleStyle(qrnTitleStyle style);
-  /// While False nothing is arranged or laid out; it becomes True when the panel is shown. Run time only.
-  /// Errors: 394 when read and 383 when set at design time.
+  /// While False the panel is not arranged when its size or a property changes, but once when it becomes
+  /// True, as it does when the panel is shown. `LayoutControls` lays the items out nevertheless. Run time
+  /// only. Errors: 394 when read and 383 when set at design time.
   bool Redraw() const;
   void SetRedraw(bool redraw);
   /// Of the title's button while it means "maximise".
@@ -292,6 +293,7 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
 
   // ---- arrangement and layout (QRNDisplay_layout.cpp) ----
   void arrange();
+  QRNImageList& ownImageList();
   double arrangeTitle();
   void placeItems(const ColumnWidths& automatic);
   /// What is the same for all the items of one layout.

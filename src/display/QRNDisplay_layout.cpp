@@ -2,6 +2,7 @@
 #include <cmath>
 #include <limits>
 
+#include "base/first_error.h"
 #include "display/QRNDisplay.h"
 #include "runtime/conversions.h"
 #include "runtime/errors.h"
@@ -36,7 +37,11 @@ void QRNDisplay::arrange() {
   const double bar = platform().scrollBarWidth();
   sbrVertical_.Move(leftMargin_ + width - bar, top, bar, height);
   invalidate();
-  pbxContainer_.Move(leftMargin_, top, width, height);
+  const WeakRef<host::Control> self(this);
+  FirstError error;
+  error.of([&] { pbxContainer_.Move(leftMargin_, top, width, height); });
+  if (self) placeToolTip();
+  error.raise();
 }
 
 // Answers the height of the title bar.
@@ -93,13 +98,13 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
   std::int32_t tab = 0;
   const WeakRef<host::Control> self(this);
   const host::ContainerControl::Rearrangement rearrangement(pbxContainer_);
-  // By position: a row that ends its edit when it is placed has listeners, and they may change the items.
-  for (std::int32_t position = 1; self && position <= items_->Count(); ++position) {
-    const PanelItem& item = items_->at(position);
-    host::Control* control = item.control();
+  // A row that ends its edit when it is placed has listeners, and they may change the items.
+  clsQRNCollection::Walk walk(items_->items_);
+  while (const PanelItem* item = walk.next()) {
+    host::Control* control = item->control();
     if (!control || !control->Visible()) continue;
     control->SetTabIndex(++tab);
-    if (QRNEdit* row = item.row()) {
+    if (QRNEdit* row = item->row()) {
       y = placeRow(*row, all, y, gap);
       gap = all.verticalSpacing;
     } else {

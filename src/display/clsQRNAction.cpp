@@ -20,8 +20,9 @@ std::optional<qrnImageId> iconOf(ddtypeAction type) {
 }  // namespace
 
 void clsQRNAction::SetDefaultLayout(ddtypeAction ActionType) {
+  QRNMenuItem& button = Control();
   QRNDisplay* owner = panel();
-  if (const auto icon = iconOf(ActionType); icon && owner) Control().SetIcon(owner->ImageList().Image(*icon));
+  if (const auto icon = iconOf(ActionType); icon && owner) button.SetIcon(owner->ImageList().Image(*icon));
   if (owner) owner->raiseItem(owner->ActionLayout, "ActionLayout", *this);
 }
 

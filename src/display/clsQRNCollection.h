@@ -49,6 +49,8 @@ class clsQRNCollection final : public Object {
  private:
   friend class QRNDisplay;
 
+  using Walk = SelectableList<PanelItem>::Walk;
+
   void SetDisplay(QRNDisplay& panel);
   QRNDisplay& Display() const;
 

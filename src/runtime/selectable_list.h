@@ -10,6 +10,7 @@
 
 #include "runtime/conversions.h"
 #include "runtime/keyed_list.h"
+#include "runtime/rounding.h"
 #include "runtime/variant.h"
 
 namespace qrn {
@@ -27,6 +28,7 @@ class SelectableList {
   SelectableList(const SelectableList&) = delete;
   SelectableList& operator=(const SelectableList&) = delete;
   ~SelectableList() {
+    for (Walk* walk = walk_; walk; walk = walk->around_) walk->list_ = nullptr;
     for (const Pointer& object : *this) object->entry_ = nullptr;
   }
 
@@ -38,7 +40,9 @@ class SelectableList {
   /// By key or position. Errors: 5 for an unknown key, 9 for a position outside.
   const Pointer& at(const Variant& keyOrPosition) const {
     if (const auto* key = keyOrPosition.get<std::string>()) return list_.at(std::string_view(*key)).value;
-    return list_.at(CLng(keyOrPosition)).value;
+    const double position = roundHalfEven(CDbl(keyOrPosition));
+    // Also a number that no position could be is one outside.
+    return list_.at(position >= 1 && position <= count() ? static_cast<std::int32_t>(position) : 0).value;
   }
 
   /// 0 when nothing here is selected.
@@ -68,13 +72,39 @@ class SelectableList {
   void add(std::string key, Pointer object, const std::optional<Variant>& before) {
     T& added = *object;
     added.entry_ = &list_.add(std::move(key), std::move(object), before ? positionOf(*before) : 0);
+    shiftWalks(added.entry_->position, +1);
   }
 
   /// Errors: 9 outside 1..count.
   Pointer take(std::int32_t position) {
     list_.at(position).value->entry_ = nullptr;
-    return list_.take(position);
+    Pointer taken = list_.take(position);
+    shiftWalks(position, -1);
+    return taken;
   }
+
+  /// Over the objects in their order, while others come and go: none is left out and none is met twice, only
+  /// what comes in front of the present one is not met any more. It ends with the list.
+  class Walk {
+   public:
+    explicit Walk(SelectableList& list) : list_(&list), around_(std::exchange(list.walk_, this)) {}
+    Walk(const Walk&) = delete;
+    Walk& operator=(const Walk&) = delete;
+    ~Walk() {
+      if (list_) list_->walk_ = around_;
+    }
+    /// Null at the end.
+    T* next() {
+      if (!list_ || position_ >= list_->count()) return nullptr;
+      return list_->at(++position_).get();
+    }
+
+   private:
+    friend class SelectableList;
+    SelectableList* list_;
+    Walk* const around_;  // the one that was under way when this began
+    std::int32_t position_ = 0;
+  };
 
   /// Over the objects in their order, by position: whoever removes some on the way skips those that move up.
   class Iterator {
@@ -97,7 +127,14 @@ class SelectableList {
   std::default_sentinel_t end() const { return {}; }
 
  private:
+  void shiftWalks(std::int32_t position, std::int32_t by) {
+    for (Walk* walk = walk_; walk; walk = walk->around_) {
+      if (position <= walk->position_) walk->position_ += by;
+    }
+  }
+
   KeyedList<Pointer> list_;
+  Walk* walk_ = nullptr;  // the innermost under way
 };
 
 }  // namespace qrn

@@ -363,5 +363,33 @@ TEST_F(ItemCollection, FindsEveryOneOfManyItemsByKeyAndPosition) {
   }
 }
 
+TEST_F(ItemCollection, APositionBeyondAnyNumberIsOutsideToo) {
+  addParameter("A");
+  for (const double position : {3e9, -3e9, 1e300, 0.4, 1.6}) {
+    EXPECT_EQ(raisedBy([&] { items().Item(Variant(position)); }).number, kSubscriptOutOfRange) << position;
+    EXPECT_EQ(raisedBy([&] { items().Remove(Variant(position)); }).number, kSubscriptOutOfRange) << position;
+  }
+  EXPECT_EQ(items().Count(), 1);
+}
+
+TEST_F(ItemCollection, FindsKeysInAnyCaseOfTheirLetters) {
+  for (const char* key : {"\u00ff", "\u03ac", "\u0436", "\u1ea1"}) addParameter(key);
+  EXPECT_EQ(indexOf(Variant("\u0178")), 1);
+  EXPECT_EQ(indexOf(Variant("\u0386")), 2);
+  EXPECT_EQ(indexOf(Variant("\u0416")), 3);
+  EXPECT_EQ(indexOf(Variant("\u1ea0")), 4);
+}
+
+// Whatever a device description calls a parameter: the panel's own controls stand aside.
+TEST_F(ItemCollection, AnItemMayHaveTheNameOfThePanelsPictures) {
+  addParameter("imlimages")->SetParamState(qrnStateReadOnly);
+  addParameter("A")->SetParamState(qrnStateReadOnly);
+  items().AddAction("B", ddtypeMenu);
+  for (const std::int32_t position : {1, 2}) {
+    ASSERT_NE(row(position).Icon2Picture(), nullptr);
+    EXPECT_EQ(row(position).Icon2Picture(), panel().ImageList().Image(qrnImageLocked));
+  }
+}
+
 }  // namespace
 }  // namespace qrn::test

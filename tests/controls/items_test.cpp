@@ -109,6 +109,8 @@ TEST_F(Items, ARemovedItemHasNoControlAnyMore) {
   EXPECT_EQ(raisedBy([&] { item->SetParamValue(Variant(1)); }).number, kObjectNotInitialized);
   EXPECT_EQ(raisedBy([&] { item->SetDefaultLayout(qrnTypeLong); }).number, kObjectNotInitialized);
   EXPECT_EQ(raisedBy([&] { action->Control(); }).number, kObjectNotInitialized);
+  for (const ddtypeAction kind : {ddtypeMenu, static_cast<ddtypeAction>(100)})
+    EXPECT_EQ(raisedBy([&] { action->SetDefaultLayout(kind); }).number, kObjectNotInitialized);
 }
 
 TEST_F(Items, TheStateOfARemovedItemCanBeWrittenWithoutAnyEffect) {

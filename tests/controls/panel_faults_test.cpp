@@ -214,6 +214,25 @@ TEST_F(FaultsWhileLayingOut, ItemsMayCome) {
   EXPECT_EQ(row(53).TabIndex(), 53);
 }
 
+TEST_F(FaultsWhileLayingOut, NoItemIsLeftOutWhenAnEarlierOneGoes) {
+  addParameter("D");
+  const auto connection = ending([this] { items().Remove(Variant(1)); });
+  panel().LayoutControls(false);
+  EXPECT_EQ(ended, 1);
+  // B had its place before A went, so the others are one further on.
+  EXPECT_EQ(row(2).TabIndex(), 3);
+  EXPECT_EQ(row(3).TabIndex(), 4);
+  EXPECT_EQ(row(3).Top() - row(2).Top(), row(2).Top() - row(1).Top());
+}
+
+TEST_F(FaultsWhileLayingOut, NoItemIsMetTwiceWhenOneComesInFront) {
+  const auto connection = ending([this] { items().AddParameter("New", qrnTypeString, Variant(1)); });
+  panel().LayoutControls(false);
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(row(3).TabIndex(), 2) << "B";
+  EXPECT_EQ(row(4).TabIndex(), 3) << "C";
+}
+
 TEST_F(FaultsWhileLayingOut, ThePanelMayGo) {
   const auto connection = ending([this] { panel_.reset(); });
   panel().LayoutControls(false);

@@ -4,6 +4,8 @@
 
 #include "host/control_ref.h"
 #include "panel_tool_tip_fixture.h"
+#include "runtime/errors.h"
+#include "support/error_of.h"
 
 namespace qrn::test {
 namespace {
@@ -103,6 +105,26 @@ TEST_F(PanelToolTip, FollowsItsRowWhenThePanelIsResized) {
   EXPECT_EQ(place.intersected(inside()), place);
   panel().Move(0, 0, 1, 1);
   EXPECT_TRUE(tip()->Visible());
+}
+
+TEST_F(PanelToolTip, GrowsWithTheFontOfThePanelWhoseItemsStayWhereTheyAre) {
+  panel().SetTitleStyle(qrnTitleNone);
+  showTip("A", 3);
+  const auto font = std::make_shared<host::Font>("Serif", 12);
+  static_cast<headless::FixedMetrics&>(platform.metrics(*font)).textHeight = 20;
+  panel().SetFont(font);
+  EXPECT_EQ(placeOf(*tip()).height, 3 * 20 + 8);
+}
+
+TEST_F(PanelToolTip, StaysInsideAPanelWhoseContentCanNotBeScrolled) {
+  panel().SetMenuItemHeight(30000);
+  showTip("A", 2);
+  const auto tall = [&] {
+    for (int i = 0; i < 2; ++i) items().AddAction("", ddtypeMethod);
+    panel().Move(0, 0, 200, 300);
+  };
+  EXPECT_EQ(errorOf(tall), kOverflow);
+  EXPECT_EQ(placeOf(*tip()).intersected(inside()), placeOf(*tip()));
 }
 
 TEST_F(PanelToolTip, FollowsItsRowWhenTheItemsAreLaidOutOrScrolled) {
