@@ -100,10 +100,11 @@ bool QRNMenuItem::isCursorOver() {
   return platform().windows().send(window(), test) == host::kHitClient;
 }
 
-bool QRNMenuItem::doClick() {
+// Answers whether the button is still there.
+bool QRNMenuItem::doClick(FirstError& error) {
   if (!Enabled() || !takesClicks()) return true;
   const WeakRef<QRNMenuItem> self(this);
-  raise(Click, "Click");
+  error.of([&] { raise(Click, "Click"); });
   return static_cast<bool>(self);
 }
 
@@ -113,6 +114,12 @@ void QRNMenuItem::tellFacts(host::AccessibleFacts& facts) const {
   facts.name = caption_;
   facts.description = ToolTipText();
   if (takesClicks()) facts.action = host::AccessibleAction::Press;
+}
+
+void QRNMenuItem::accessibleAct(std::int32_t) {
+  FirstError error;
+  doClick(error);
+  error.raise();
 }
 
 void QRNMenuItem::lookAgain() {
@@ -150,8 +157,9 @@ void QRNMenuItem::mouseUp(host::MouseButton button, std::int16_t, Point at) {
   if (button == host::MouseButton::Left && leftButtonDown_) {
     leftButtonDown_ = false;
     if (!takesClicks()) return;
-    if (inside && !doClick()) return;
-    invalidate();
+    FirstError error;
+    if (!inside || doClick(error)) invalidate();
+    error.raise();
   } else if (button == host::MouseButton::Right && rightButtonDown_) {
     rightButtonDown_ = false;
     if (inside) showContextMenu(false);
@@ -172,23 +180,29 @@ void QRNMenuItem::keyDown(std::int16_t& keyCode, std::int16_t& shift) {
 }
 
 void QRNMenuItem::keyUp(std::int16_t& keyCode, std::int16_t& shift) {
-  if (keyCode == host::key::Space && takesClicks()) {
-    if (!doClick()) return;
+  FirstError error;
+  const bool chosen = keyCode == host::key::Space && takesClicks();
+  const bool there = !chosen || doClick(error);
+  if (there && chosen) {
     spacePressed_ = false;
     invalidate();
   }
-  raise(KeyUp, "KeyUp", keyCode, shift);
+  if (there) error.of([&] { raise(KeyUp, "KeyUp", keyCode, shift); });
+  error.raise();
 }
 
 void QRNMenuItem::keyPress(std::int16_t& keyAscii) {
-  if (keyAscii == host::key::Enter && takesClicks() && hasFocus_ && keyboardFocus_ && !doClick()) return;
-  raise(KeyPress, "KeyPress", keyAscii);
+  FirstError error;
+  const bool chosen = keyAscii == host::key::Enter && takesClicks() && hasFocus_ && keyboardFocus_;
+  if (!chosen || doClick(error)) error.of([&] { raise(KeyPress, "KeyPress", keyAscii); });
+  error.raise();
 }
 
 void QRNMenuItem::gotFocus() {
   if (takesClicks() && Visible()) {
     // The press that brings the focus is told only after it.
-    keyboardFocus_ = !input().holds(host::MouseButton::Left) && !input().holds(host::MouseButton::Right);
+    keyboardFocus_ =
+        !input().holds(host::MouseButton::Left, *this) && !input().holds(host::MouseButton::Right, *this);
     hasFocus_ = true;
     invalidate();
   }

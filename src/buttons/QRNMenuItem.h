@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "base/first_error.h"
 #include "buttons/context_menu.h"
 #include "buttons/hover_watch.h"
 #include "enums/enumerations.h"
@@ -106,7 +107,7 @@ class QRNMenuItem final : public host::UserControl {
 
  protected:
   void tellFacts(host::AccessibleFacts& facts) const override;
-  void accessibleAct(std::int32_t) override { doClick(); }
+  void accessibleAct(std::int32_t) override;
   void initProperties() override;
   void resize() override { invalidate(); }
   void show() override;
@@ -131,7 +132,7 @@ class QRNMenuItem final : public host::UserControl {
   bool takesClicks() const { return buttonMode_ != qrnbuttonNone; }
   bool isCursorOver();
   void lookAgain();
-  bool doClick();
+  bool doClick(FirstError& error);
   void release();
   void showContextMenu(bool atKeyboard);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/first_error.h"
 #include "diag/QRNErrors.h"
 #include "runtime/errors.h"
 
@@ -35,8 +36,10 @@ ButtonPtr clsQRNButtons::AddButton(std::string_view CtlName, const std::string& 
   if (!button) return nullptr;
   startTimer();  // an earlier removal may have taken it
   const WeakRef<ButtonsPanel> guard(panel_.get());
-  button->SetDefaultLayout(Caption);
-  if (guard) guard->buttonsChanged();
+  FirstError error;
+  error.of([&] { button->SetDefaultLayout(Caption); });
+  if (guard) error.of([&] { guard->buttonsChanged(); });
+  error.raise();
   return button;
 }
 
@@ -72,15 +75,20 @@ void clsQRNButtons::Remove(const Variant& aSelector) {
     return;
   }
   const WeakRef<ButtonsPanel> guard(panel_.get());
-  removeAt(Item(aSelector)->entry_->position);
+  const std::int32_t position = Item(aSelector)->entry_->position;
+  FirstError error;
+  error.of([&] { removeAt(position); });
   if (guard && Count() == 0) stopTimer();
+  error.raise();
 }
 
 void clsQRNButtons::RemoveAll() {
   const WeakRef<ButtonsPanel> guard(panel_.get());
+  FirstError error;
   for (std::int32_t i = Count(); guard && i >= 1; --i) {
-    if (i <= Count()) Remove(Variant(i));
+    if (i <= Count()) error.of([&] { Remove(Variant(i)); });
   }
+  error.raise();
 }
 
 void clsQRNButtons::removeAt(std::int32_t position) {

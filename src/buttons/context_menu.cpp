@@ -1,5 +1,7 @@
 #include "buttons/context_menu.h"
 
+#include <limits>
+
 #include "runtime/rounding.h"
 
 namespace qrn {
@@ -25,8 +27,9 @@ host::PopupMenu& ContextMenu::menu() {
 }
 
 std::shared_ptr<host::MenuEntry> ContextMenu::add(std::string_view caption) {
+  // An event tells the index as an Integer.
   const int index = menu().count();
-  if (!menu().load(index, caption)) return nullptr;
+  if (index > std::numeric_limits<std::int16_t>::max() || !menu().load(index, caption)) return nullptr;
   auto added = entry(index), model = entry(0);
   added->SetEnabled(model->Enabled());
   added->SetChecked(model->Checked());

@@ -8,8 +8,9 @@
 
 namespace qrn {
 
-/// Looks again and again whether the mouse is still over what it has gone over, by a timer named "tmrHit" among the
-/// controls of the one that watches. The host may remove that like any other; then nothing is watched any more.
+/// Looks again and again whether the mouse is still over what it has gone over, by a timer named "tmrHit"
+/// among the controls of the one that watches. The host may remove that like any other; then nothing is
+/// watched any more.
 class HoverWatch {
  public:
   /// `look` is called every 70 milliseconds, and may stop the watch.

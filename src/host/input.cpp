@@ -129,10 +129,10 @@ template <class Tell>
 Control* Input::press(MouseButton button, Point at, Tell&& tell) {
   if (!root_->Enabled()) return nullptr;
   const WeakRef<Control> root(root_);
-  // One that is down already has come up where nobody could see it, and what is hidden or disabled can't have
-  // the mouse any longer.
-  const bool lost = capture_ && !(capture_->shown() && capture_->enabledUpToSurface());
-  if (holds(button) || lost) releaseAll();
+  // One that is down already has come up where nobody could see it.
+  if (holds(button)) releaseAll();
+  dropLostCapture();
+  if (!root) return nullptr;
   held_ = static_cast<std::int16_t>(held_ | static_cast<std::int16_t>(button));
   if (!capture_) capture_ = hit(at);
   const WeakRef<Control> target(capture_);
@@ -167,8 +167,24 @@ void Input::doubleClick(Point at) {
   });
 }
 
+// What has been hidden or disabled since it was pressed can't have the mouse any longer. To it, the buttons
+// that are down come up where it is not, so that nothing is clicked.
+void Input::dropLostCapture() {
+  if (!capture_ || (capture_->shown() && capture_->enabledUpToSurface())) return;
+  const WeakRef<Control> root(root_), lost(capture_);
+  const std::int16_t held = held_;
+  releaseAll();
+  constexpr Point kNowhere{-1, -1};
+  for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle}) {
+    if (root && lost && (held & static_cast<std::int16_t>(button)) != 0)
+      tellReleased(*lost, button, shift::None, kNowhere);
+  }
+}
+
 void Input::mouseMove(std::int16_t buttons, std::int16_t shiftState, Point at) {
-  if (!root_->Enabled() && !capture_) return;
+  const WeakRef<Control> root(root_);
+  dropLostCapture();
+  if (!root || (!root_->Enabled() && !capture_)) return;
   if (buttons == 0) releaseAll();
   Control* target = capture_ ? capture_ : hit(at);
   Control* told = asUserControl(target) ? target : target->Parent();
@@ -191,14 +207,21 @@ void Input::mouseLeft() {
 
 void Input::mouseUp(MouseButton button, std::int16_t shiftState, Point at) {
   if (!root_->Enabled() && !capture_) return;
+  const bool captured = capture_ != nullptr;
+  const WeakRef<Control> root(root_);
+  dropLostCapture();
+  if (!root || (captured && !capture_)) return;
   Control* target = capture_ ? capture_ : hit(at);
   held_ = static_cast<std::int16_t>(held_ & ~static_cast<std::int16_t>(button));
   if (held_ == 0) capture_ = nullptr;
-  const Point local = target->fromSurface(at);
-  if (auto* user = asUserControl(target))
+  tellReleased(*target, button, shiftState, target->fromSurface(at));
+}
+
+void Input::tellReleased(Control& target, MouseButton button, std::int16_t shiftState, Point local) {
+  if (auto* user = asUserControl(&target))
     user->mouseUp(button, shiftState, local);
-  else if (target->Parent())
-    target->Parent()->childMouseUp(*target, button, shiftState, local);
+  else if (target.Parent())
+    target.Parent()->childMouseUp(target, button, shiftState, local);
 }
 
 bool Input::wheel(Point at, double notches) {

@@ -75,6 +75,8 @@ class Input {
   void doubleClick(Point at);
   /// Whether the button is down since a press on this surface.
   bool holds(MouseButton button) const { return (held_ & static_cast<std::int16_t>(button)) != 0; }
+  /// The same where the control has the mouse.
+  bool holds(MouseButton button, const Control& on) const { return capture_ == &on && holds(button); }
   /// Notches away from the user are positive. Answers whether somebody scrolled.
   bool wheel(Point at, double notches);
 
@@ -108,6 +110,8 @@ class Input {
     capture_ = nullptr;
     held_ = 0;
   }
+  void dropLostCapture();
+  void tellReleased(Control& target, MouseButton button, std::int16_t shift, Point local);
   template <class Tell>
   Control* press(MouseButton button, Point at, Tell&& tell);
   /// The focused control, or the surface itself; null for one that can't be used.

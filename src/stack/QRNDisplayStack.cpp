@@ -8,8 +8,8 @@
 namespace qrn {
 
 void QRNDisplayStack::initialize() {
-  imageList_ =
-      &static_cast<QRNImageList&>(controls().add("QRNV16Controls2.QRNImageList", "imlImages", *this));
+  host::Control& list = controls().add("QRNV16Controls2.QRNImageList", "imlImages", *this);
+  imageList_ = WeakRef<QRNImageList>(static_cast<QRNImageList*>(&list));
   Move(0, 0, 480, 360);
 }
 

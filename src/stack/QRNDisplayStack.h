@@ -159,7 +159,7 @@ class QRNDisplayStack final : public host::UserControl {
   void uncoverTop(FirstError& error);
 
   SelectableList<clsDisplayPage> pages_;
-  QRNImageList* imageList_ = nullptr;
+  WeakRef<QRNImageList> imageList_;  // without it, each page has its own
   Variant extraData_;
   std::int32_t leftIndent_ = 10;
   std::int32_t topIndent_ = 20;

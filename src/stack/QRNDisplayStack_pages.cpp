@@ -62,7 +62,7 @@ QRNDisplayStack::Page QRNDisplayStack::makePage(const std::string& name) {
 
 // The first page has nowhere to go back to, and nothing to be larger than.
 void QRNDisplayStack::dress(QRNDisplay& display, std::int32_t index, const std::string& title, bool modal) {
-  display.SetImageList(imageList_);
+  display.SetImageList(imageList_.get());
   display.SetIconCloseHidden(index == 1 && !modal);
   display.SetIconMaxRstHidden(index == 1);
   display.SetTitle(title);
@@ -103,7 +103,7 @@ void QRNDisplayStack::ActivatePage(std::int32_t PageIndex) {
 
 // Each page is asked once. A listener may have closed it itself, and then its turn is over; or it has put
 // another page on it or in its place, and then everything stays where it is. One that fails has not let go of
-// the page.
+// what is left.
 QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index, FirstError& error) {
   const WeakRef<Control> self(this);
   Closed closed = Closed::Nothing;
@@ -115,8 +115,8 @@ QRNDisplayStack::Closed QRNDisplayStack::closeAbove(std::int32_t index, FirstErr
     if (!self) return closed;
     const bool another = Count() >= k && !isTop(*asked);
     if (another) return closed == Closed::Nothing ? closed : Closed::SomeUnderAnother;
-    if (!asked->isOpen()) continue;
     if (cancel) return closed;
+    if (!asked->isOpen()) continue;
     closeTop();
     if (!self) return closed;
     closed = Closed::Some;

@@ -77,6 +77,8 @@ void QRNToolTip::showBox(bool shown) {
   if (!shown && rtfInfo_.hasFocus()) host::Control::input().setFocus(this);
   if (!self) return;
   rtfInfo_.SetVisible(shown);
+  // It shows its text from the beginning, with nothing selected.
+  if (shown) rtfInfo_.SetSelStart(0);
   if (shown && hasFocus()) rtfInfo_.SetFocus();
 }
 

@@ -1,4 +1,5 @@
 #include "action_button_fixture.h"
+#include "support/error_of.h"
 #include "support/meddling_site.h"
 
 namespace qrn::test {
@@ -71,6 +72,70 @@ TEST_F(ActionButton, IsNotClickedWhenAllAroundItIsHiddenWhileItIsPressed) {
   panel().ControlsContainer().SetVisible(false);
   user->releasesAt(place({5, 5}));
   EXPECT_EQ(clicks(), 0);
+}
+
+TEST_F(ActionButton, IsNotClickedWhenThePanelIsDisabledWhileItIsPressed) {
+  button().AddMenuItem("Trend");
+  for (const auto press : {host::MouseButton::Left, host::MouseButton::Right}) {
+    user->pressesAt(place({5, 5}), press);
+    panel().SetEnabled(false);
+    user->releasesAt(place({5, 5}), press);
+    panel().SetEnabled(true);
+    user->releasesAt(place({5, 5}), press);
+  }
+  EXPECT_EQ(clicks(), 0);
+  EXPECT_TRUE(platform.shownMenus().empty());
+  user->movesTo(place({5, 5}));
+  EXPECT_EQ(frame(), kWhite) << "it is not down any more";
+}
+
+TEST_F(ActionButton, IsReachedByKeyboardWhileTheMouseHoldsAnother) {
+  auto& other = items().AddAction("Other", ddtypeMenu)->Control();
+  other.Move(0, 50, 90, 30);
+  user->pressesAt(other.onSurface().topLeft() + Point{5, 5});
+  button().SetFocus();
+  take();
+  user->presses(host::key::Enter);
+  EXPECT_EQ(clicks(), 1);
+}
+
+class FailingClick : public ActionButton {
+ protected:
+  FailingClick() {
+    failing_ = button().Click.connect([] { raiseRunTimeError(1000, "listener"); });
+    take();
+  }
+
+ private:
+  Connection failing_;
+};
+
+TEST_F(FailingClick, OfTheSpaceBarLeavesTheButtonUp) {
+  button().SetFocus();
+  take();
+  std::int16_t space = host::key::Space, shift = 0;
+  button().keyDown(space, shift);
+  EXPECT_EQ(frame(), kShadow);
+  EXPECT_EQ(errorOf([&] { button().keyUp(space, shift); }), 1000);
+  EXPECT_NE(frame(), kShadow);
+  EXPECT_EQ(take(), (Events{"KeyDown 32 0", "KeyUp 32 0"}));
+}
+
+TEST_F(FailingClick, OfTheEnterKeyIsFollowedByTheKey) {
+  button().SetFocus();
+  take();
+  std::int16_t enter = host::key::Enter;
+  EXPECT_EQ(errorOf([&] { button().keyPress(enter); }), 1000);
+  EXPECT_EQ(take(), (Events{"KeyPress 13"}));
+}
+
+TEST_F(FailingClick, OfTheMouseLeavesTheButtonUp) {
+  panel().realise();
+  user->pressesAt(place({5, 5}));
+  auto& invalidated = static_cast<headless::HeadlessPeer&>(*panel().peer()).invalidated;
+  invalidated.clear();
+  EXPECT_EQ(errorOf([&] { user->releasesAt(place({5, 5})); }), 1000);
+  EXPECT_FALSE(invalidated.empty());
 }
 
 TEST_F(ActionButton, TakesNoKeysInADisabledPanel) {

@@ -57,6 +57,13 @@ TEST_F(ContextMenuOfAButton, EntriesCountFromOne) {
   EXPECT_EQ(button().GetMenuItem(2), second);
 }
 
+TEST_F(ContextMenuOfAButton, HasNoMoreEntriesThanAnIntegerCounts) {
+  for (int i = 1; i < 32767; ++i) button().AddMenuItem("");
+  EXPECT_NE(button().AddMenuItem("the last one"), nullptr);
+  EXPECT_EQ(button().AddMenuItem("one more"), nullptr);
+  EXPECT_EQ(button().GetMenuItem(32768), nullptr);
+}
+
 TEST_F(ContextMenuOfAButton, ANewEntryIsACopyOfTheTemplate) {
   button().GetMenuItem(0)->SetEnabled(false);
   button().GetMenuItem(0)->SetChecked(true);

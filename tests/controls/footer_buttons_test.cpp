@@ -274,6 +274,8 @@ TEST_F(FooterFaults, AnErrorOfALayoutListenerReachesTheCallerAndLeavesTheButton)
     EXPECT_EQ(raisedBy([&] { add("OK"); }).number, 1000);
   }
   EXPECT_EQ(order(), (Names{"OK"}));
+  EXPECT_TRUE(panel().ButtonsContainer().Visible());
+  EXPECT_GT(control(1).Width(), 0);
   add("Cancel");
   user->clicks(control(2));
   startListening();

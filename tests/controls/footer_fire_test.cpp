@@ -30,6 +30,21 @@ TEST_F(FireTimer, RemovingTheLastOneByKeyOrPositionTakesTheTimer) {
   }
 }
 
+TEST_F(FireTimer, GoesWithTheLastOneEvenWhenThePanelCanNotBeArrangedThen) {
+  for (const bool all : {false, true}) {
+    add("A");
+    if (all) add("B");
+    panel().SetMenuItemHeight(30000);
+    for (int i = 0; i < 2; ++i) items().AddAction("", ddtypeMethod);
+    const auto removal = [&] { all ? buttons().RemoveAll() : buttons().Remove(Variant("A")); };
+    EXPECT_EQ(raisedBy(removal).number, kOverflow);
+    EXPECT_EQ(buttons().Count(), 0);
+    EXPECT_EQ(timer(), nullptr);
+    items().RemoveAll();
+    panel().LayoutControls(false);
+  }
+}
+
 TEST_F(FireTimer, LeavesAnItemOfItsNameAlone) {
   addParameter("tmrButtonFire");
   add("A")->SetAutoFireDelay(100);

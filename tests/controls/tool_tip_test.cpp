@@ -228,6 +228,16 @@ TEST_F(ToolTips, HideTheirBoxWhileTheyAreFilled) {
   EXPECT_TRUE(box().Visible());
 }
 
+TEST_F(ToolTips, ShowTheirTextFromTheBeginningWhenTheyAreFilled) {
+  tip().SetText("abc");
+  box().SetSelStart(1);
+  box().SetSelLength(2);
+  tip().SetRedraw(false);
+  tip().SetRedraw(true);
+  EXPECT_EQ(box().SelStart(), 0);
+  EXPECT_EQ(box().SelLength(), 0);
+}
+
 TEST_F(ToolTips, KeepTheFocusWhileTheBoxIsHidden) {
   int closes = 0;
   const auto closed = tip().TTClose.connect([&] { ++closes; });

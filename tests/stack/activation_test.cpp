@@ -107,6 +107,27 @@ TEST_F(Activation, IsSilentWhenTheMouseIsReleasedElsewhere) {
   EXPECT_EQ(platform.beeps(), 0);
 }
 
+// A press on what a modal page then covers: such as one that opens by itself after a while.
+TEST_F(Activation, DoesNotFollowAPressThatWasOnAPageBeforeAModalOneCameOverIt) {
+  stack().SetHideDisabledControls(false);
+  addPages("..");
+  const auto action = page(1).Items().AddAction("", ddtypeMethod);
+  page(1).LayoutControls(false);
+  for (const host::Control* pressed :
+       {static_cast<host::Control*>(&page(2).imgClose()), static_cast<host::Control*>(&page(1)),
+        static_cast<host::Control*>(&action->Control())}) {
+    const Point at = pressed->onSurface().topLeft() + Point{3, 5};
+    user->pressesAt(at);
+    add(true);
+    take();
+    user->releasesAt(at);
+    EXPECT_EQ(take(), Events{}) << pressed->typeName();
+    EXPECT_EQ(stack().Count(), 3);
+    stack().ActivatePage(2);
+    take();
+  }
+}
+
 // ---- by the user ----
 
 TEST_F(Activation, FollowsAClickOnALowerPage) {

@@ -194,6 +194,25 @@ TEST_F(Meddling, AControlOfTheHostsOwnMayBeRemoved) {
   expectInOrder();
 }
 
+TEST_F(Meddling, ThePicturesOfTheStackMayBeRemoved) {
+  stack().controls().remove("imlImages");
+  addPages("..");
+  EXPECT_FALSE(page(2).ImageList().Image(qrnImageLocked)->empty());
+  expectInOrder();
+}
+
+TEST_F(Meddling, AListenerThatClosesItsPageMayKeepThoseBelow) {
+  addPages("....");
+  keep = stack().PageClose.connect([&](std::int32_t index, bool& cancel) {
+    if (index != 4) return;
+    stack().controls().remove(stack().Pages(Variant(4)).Name());
+    cancel = true;
+  });
+  stack().ActivatePage(1);
+  EXPECT_EQ(stack().Count(), 3);
+  expectInOrder();
+}
+
 // ---- the stack itself goes ----
 
 class Destroying : public Meddling {

@@ -6,7 +6,8 @@
 
 namespace qrn::test {
 
-/// The number of the run-time error that an action raises, 0 for none. Anything else that is thrown fails the test.
+/// The number of the run-time error that an action raises, 0 for none. Anything else that is thrown fails the
+/// test.
 template <class Action>
 std::int32_t errorOf(Action&& action) {
   try {
