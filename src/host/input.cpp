@@ -158,8 +158,8 @@ Control* Input::mouseDown(MouseButton button, std::int16_t shiftState, Point at)
   });
 }
 
-void Input::doubleClick(Point at) {
-  press(MouseButton::Left, at, [](Control& target, Point local) {
+Control* Input::doubleClick(Point at) {
+  return press(MouseButton::Left, at, [](Control& target, Point local) {
     if (auto* user = asUserControl(&target))
       user->doubleClick(local);
     else if (target.Parent())

@@ -71,8 +71,8 @@ class Input {
   void mouseUp(MouseButton button, std::int16_t shift, Point at);
   /// The mouse is over something else than this surface now.
   void mouseLeft();
-  /// The second press of a double click with the left button; the release follows.
-  void doubleClick(Point at);
+  /// The second press of a double click with the left button; the release follows. Answers as `mouseDown`.
+  Control* doubleClick(Point at);
   /// Whether the button is down since a press on this surface.
   bool holds(MouseButton button) const { return (held_ & static_cast<std::int16_t>(button)) != 0; }
   /// The same where the control has the mouse.

@@ -39,38 +39,48 @@ std::string TextBox::shownText() const {
 
 // A program may set letters and lengths that the user can't type. What the user leaves of those stays as it
 // is.
-std::string TextBox::admitted(std::string_view typed, std::int32_t caret) const {
-  const std::size_t room = std::min(text_.size(), typed.size());
-  const auto isInside = [&](std::size_t at) { return at < typed.size() && (typed[at] & 0xC0) == 0x80; };
+TextBox::Edit TextBox::admitted(Edit typed) const {
+  const std::string& text = typed.text;
+  const std::size_t room = std::min(text_.size(), text.size());
+  const auto isInside = [&](std::size_t at) { return at < text.size() && (text[at] & 0xC0) == 0x80; };
   // Where letters are doubled the caret tells which of them is new: it stands behind that.
-  const std::size_t behind =
-      caret < 0 ? 0 : typed.size() - text::byteOffset(typed, static_cast<std::size_t>(caret));
+  const auto caret = static_cast<std::size_t>(std::max(typed.selStart, 0));
+  const std::size_t behind = std::min(text.size() - text::byteOffset(text, caret), room);
   std::size_t end = 0;
-  while (end < std::min(behind, room) && typed[typed.size() - 1 - end] == text_[text_.size() - 1 - end])
-    ++end;
-  while (end > 0 && isInside(typed.size() - end)) --end;
+  while (end < behind && text[text.size() - 1 - end] == text_[text_.size() - 1 - end]) ++end;
+  while (end > 0 && isInside(text.size() - end)) --end;
   std::size_t start = 0;
-  while (start < room - end && typed[start] == text_[start]) ++start;
+  while (start < room - end && text[start] == text_[start]) ++start;
   while (start > 0 && isInside(start)) --start;
 
-  std::string inserted(typed.substr(start, typed.size() - end - start));
-  if (upperCase_) inserted = qrn::upperCase(std::string_view(inserted));
+  const std::string_view left = std::string_view(text).substr(0, start);
+  const std::string_view right = std::string_view(text).substr(text.size() - end);
+  const std::string given = text.substr(start, text.size() - end - start);
+  std::string inserted = upperCase_ ? qrn::upperCase(std::string_view(given)) : given;
   if (maxLength_ > 0) {
     const std::size_t most = std::max(static_cast<std::size_t>(maxLength_), text::length(text_));
-    const std::size_t kept =
-        text::length(typed.substr(0, start)) + text::length(typed.substr(typed.size() - end));
+    const std::size_t kept = text::length(left) + text::length(right);
     inserted = text::slice(inserted, 0, most - std::min(most, kept));
   }
-  return std::string(typed.substr(0, start)).append(inserted).append(typed.substr(typed.size() - end));
+  if (inserted == given) return typed;
+  const auto behindIt = static_cast<std::int32_t>(text::length(left) + text::length(inserted));
+  return {std::string(left).append(inserted).append(right), std::min(typed.selStart, behindIt), 0};
 }
 
 void TextBox::userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength) {
-  std::string wanted = admitted(text, selStart);
-  if (locked_ || !enabledUpToSurface()) wanted = text_;
-  const bool corrected = wanted != text;
-  const bool changed = wanted != text_;
-  if (changed) store(std::move(wanted));
-  userSelected(selStart, selLength);
+  take(admitted({std::string(text), selStart, selLength}), text);
+}
+
+void TextBox::userWentBack(std::string_view text, std::int32_t selStart) {
+  take({std::string(text), selStart, 0}, text);
+}
+
+void TextBox::take(Edit wanted, std::string_view given) {
+  if (locked_ || !enabledUpToSurface()) wanted.text = text_;
+  const bool corrected = wanted.text != given;
+  const bool changed = wanted.text != text_;
+  if (changed) store(std::move(wanted.text));
+  userSelected(wanted.selStart, wanted.selLength);
   if (corrected && peer()) peer()->changed(Aspect::Content);
   if (!changed) return;
   touchedByUser(Aspect::Content);

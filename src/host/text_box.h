@@ -34,6 +34,8 @@ class TextBox final : public Editor {
   std::string shownText() const;
 
   void userTyped(std::string_view text, std::int32_t selStart, std::int32_t selLength = 0);
+  /// By undo or redo, to a text that has been here: it is taken as it is.
+  void userWentBack(std::string_view text, std::int32_t selStart);
   void userSelected(std::int32_t start, std::int32_t length);
 
   std::intptr_t windowMessage(const Message& message) override;
@@ -46,7 +48,13 @@ class TextBox final : public Editor {
 
  private:
   void store(std::string text);
-  std::string admitted(std::string_view typed, std::int32_t caret) const;
+  struct Edit {
+    std::string text;
+    std::int32_t selStart;
+    std::int32_t selLength;
+  };
+  Edit admitted(Edit typed) const;
+  void take(Edit wanted, std::string_view given);
 
   std::string text_;
   std::unique_ptr<std::string> passwordChar_;  // null while the text is shown

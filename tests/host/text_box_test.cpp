@@ -136,6 +136,27 @@ TEST_F(TextBoxes, CutAPasteInTheMiddleAndNotWhatIsBehindIt) {
   EXPECT_EQ(box.Text(), "abXcd");
 }
 
+TEST_F(TextBoxes, HaveTheirCaretBehindWhatIsLeftOfAPaste) {
+  box.SetMaxLength(3);
+  box.SetText("ab");
+  box.userTyped("xyzab", 3);
+  EXPECT_EQ(box.Text(), "xab");
+  EXPECT_EQ(box.SelStart(), 1);
+  box.SetText("ab");
+  box.userTyped("ab\U0001F600\U0001F601", 4);
+  EXPECT_EQ(box.Text(), "ab\U0001F600") << "counted in code points";
+}
+
+TEST_F(TextBoxes, TakeWhatIsUndoneAsItWas) {
+  box.setUpperCase(true);
+  box.SetMaxLength(2);
+  box.SetText("abc");
+  box.userTyped("ab", 2);
+  box.userWentBack("abc", 3);
+  EXPECT_EQ(box.Text(), "abc");
+  EXPECT_EQ(box.SelStart(), 3);
+}
+
 TEST_F(TextBoxes, HaveNoMaximumAtZero) {
   user.types(std::string(100, 'x'));
   EXPECT_EQ(box.Text().size(), 100u);

@@ -79,6 +79,18 @@ TEST_F(RowsInAWindow, EndTheEditWhenTheWindowCloses) {
   EXPECT_EQ(raised.front(), "ParameterEndEdit");
 }
 
+TEST_F(RowsInAWindow, HearNothingOfAWindowAroundTheirOwn) {
+  QWidget around;
+  window.setParent(&around, Qt::Dialog);
+  window.show();
+  around.show();
+  row(0).SetFocus();
+  raised.clear();
+  around.close();
+  EXPECT_EQ(raised, Events{});
+  window.setParent(nullptr);
+}
+
 TEST_F(RowsInAWindow, MayAllGoWhileTheWindowCloses) {
   row(0).SetFocus();
   const Connection ending = panel->ParameterEndEdit.connect([this](std::int32_t&, bool&) { panel.reset(); });

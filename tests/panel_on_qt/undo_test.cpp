@@ -124,5 +124,26 @@ TEST_F(UndoOnQt, ChangesNothingInALockedRow) {
   EXPECT_EQ(undone(), "abc");
 }
 
+TEST_F(UndoOnQt, BringsBackWhatTheUserCouldNotHaveTyped) {
+  QRNEdit& row = edited(qrnTypeString, "abc");
+  row.SetValueUpperCase(true);
+  line->setCursorPosition(2);
+  QTest::keyClick(line, Qt::Key_Backspace);
+  EXPECT_EQ(row.ValueText(), "ac");
+  EXPECT_EQ(undone(), "abc");
+  EXPECT_EQ(row.ValueText(), "abc");
+  EXPECT_EQ(redone(), "ac");
+}
+
+TEST_F(UndoOnQt, BringsBackATextThatIsLongerThanTheUserMayType) {
+  QRNEdit& row = edited(qrnTypeString, "abcde");
+  row.SetValueMaxLength(3);
+  QTest::keyClick(line, Qt::Key_Backspace);
+  QTest::keyClick(line, Qt::Key_Backspace);
+  EXPECT_EQ(row.ValueText(), "abc");
+  EXPECT_EQ(undone(), "abcde");
+  EXPECT_EQ(row.ValueText(), "abcde");
+}
+
 }  // namespace
 }  // namespace qrn

@@ -1,9 +1,13 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEventLoop>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
+#include <utility>
 
 #include "test_panel.h"
 
@@ -174,6 +178,92 @@ TEST_F(Life, ThePanelHasTheSizeOfItsWidget) {
   EXPECT_EQ(panel->Height(), 111);
   panel->Move(0, 0, 150, 120);
   EXPECT_EQ(canvas->size(), QSize(150, 120));
+}
+
+// ---- listeners with an event loop of their own ----
+
+/// A listener opens a dialog, and what it listens to goes while that runs.
+class Dialogs : public Life {
+ protected:
+  void openWhen(const std::string& when, std::function<void()> inside) {
+    panel->listener = [this, when, inside = std::move(inside)](const std::string& what) {
+      if (what != when || std::exchange(opened_, true)) return;
+      QEventLoop dialog;
+      QTimer::singleShot(0, [&] {
+        inside();
+        QTimer::singleShot(0, [&] { QTimer::singleShot(0, &dialog, &QEventLoop::quit); });
+      });
+      dialog.exec();
+    };
+  }
+
+ private:
+  bool opened_ = false;
+};
+
+TEST_F(Dialogs, ATextMayGoWhileItsChangeOpensOne) {
+  panel->text().SetFocus();
+  const QPointer<QLineEdit> line = shown<QLineEdit>();
+  openWhen("text Change \"x\"", [&] { panel->controls().remove("text"); });
+  line->selectAll();
+  QTest::keyClicks(line, "x");
+  settle();
+  EXPECT_FALSE(line);
+}
+
+TEST_F(Dialogs, ADropListMayGoWhileItsClickOpensOne) {
+  panel->combo().SetFocus();
+  const QPointer<QComboBox> list = shown<QComboBox>();
+  openWhen("combo Click", [&] { panel->controls().remove("combo"); });
+  QTest::keyClick(list, Qt::Key_Down);
+  settle();
+  EXPECT_FALSE(list);
+}
+
+TEST_F(Dialogs, AListMayGoWhileItsTickOpensOne) {
+  panel->list().SetFocus();
+  const QPointer<QListWidget> list = shown<QListWidget>();
+  openWhen("list ItemCheck 0", [&] { panel->controls().remove("list"); });
+  QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                    list->visualItemRect(list->item(0)).center());
+  settle();
+  EXPECT_FALSE(list);
+}
+
+TEST_F(Dialogs, AnEditorMayLoseTheFocusWhileOneIsOpen) {
+  panel->text().SetFocus();
+  const QPointer<QLineEdit> line = shown<QLineEdit>();
+  openWhen("text Change \"x\"", [&] { panel->check().SetFocus(); });
+  line->selectAll();
+  QTest::keyClicks(line, "x");
+  settle();
+  EXPECT_FALSE(line);
+  EXPECT_EQ(panel->text().Text(), "x");
+}
+
+TEST_F(Dialogs, ThePanelMayGoWhileItsPressOpensOne) {
+  const QPointer<QWidget> watched = canvas;
+  openWhen("panel MouseDown", [&] { panel.reset(); });
+  clickAt({5, 195});
+  settle();
+  EXPECT_FALSE(panel);
+  EXPECT_FALSE(watched);
+}
+
+TEST_F(Dialogs, ThePanelMayGoWhileThePressOnAnEditorOpensOne) {
+  openWhen("check Click", [&] { panel.reset(); });
+  click(panel->check());
+  settle();
+  EXPECT_FALSE(panel);
+}
+
+TEST_F(Life, AnErrorOfAnyKindIsNotTheEndOfTheProgram) {
+  panel->listener = [](const std::string& what) {
+    if (what.starts_with("text Change")) throw 42;
+  };
+  panel->text().SetFocus();
+  QTest::keyClicks(shown<QLineEdit>(), "x");
+  EXPECT_TRUE(heard("text Change \"alpha betax\"") || heard("text Change \"xalpha beta\""));
 }
 
 }  // namespace

@@ -124,6 +124,36 @@ TEST_F(Mouse, ADisabledEditorIsNotRealised) {
   EXPECT_EQ(panel->check().Value(), 0);
 }
 
+TEST_F(Mouse, TheSecondPressOfADoubleClickReachesAPaintedEditor) {
+  const QPoint at = middle(panel->check());
+  send(QEvent::MouseButtonDblClick, at, Qt::LeftButton);
+  send(QEvent::MouseButtonRelease, at, Qt::NoButton);
+  ASSERT_TRUE(shown<QCheckBox>());
+  EXPECT_EQ(panel->check().Value(), 1);
+}
+
+TEST_F(Mouse, AListForgetsThePressOfWhatIsDisabledOrGoneMeanwhile) {
+  panel->list().SetFocus();
+  auto* list = shown<QListWidget>();
+  ASSERT_TRUE(list);
+  const QPoint at = list->visualItemRect(list->item(0)).center();
+  const auto clickAround = [&](const std::function<void()>& meanwhile) {
+    QTest::mousePress(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+    meanwhile();
+    QTest::mouseRelease(list->viewport(), Qt::LeftButton, Qt::NoModifier, at);
+  };
+  clickAround([&] {
+    panel->list().SetEnabled(false);
+    panel->list().SetEnabled(true);
+  });
+  EXPECT_FALSE(heard("list ItemCheck 0"));
+  clickAround([&] {
+    panel->list().Clear();
+    panel->list().AddItem("other");
+  });
+  EXPECT_FALSE(heard("list ItemCheck 0"));
+}
+
 TEST_F(Mouse, AClickBesideTheEditorsLeavesTheFocusWhereItIs) {
   click(panel->text());
   clickAt({5, 195});

@@ -1,3 +1,5 @@
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 
@@ -67,6 +69,38 @@ TEST_F(TextBoxPeer, NoMoreIsTypedThanFits) {
   QTest::keyClicks(shown<QLineEdit>(), "abc");
   EXPECT_EQ(panel->text().Text(), "ab\U0001F600");
   EXPECT_EQ(toUtf8(shown<QLineEdit>()->text()), panel->text().Text());
+  EXPECT_EQ(shown<QLineEdit>()->cursorPosition(), 2);
+}
+
+TEST_F(TextBoxPeer, ALetterOfTwoUnitsFitsWhereOneFits) {
+  panel->text().SetText("ab");
+  panel->text().SetMaxLength(3);
+  panel->text().SetFocus();
+  shown<QLineEdit>()->end(false);
+  QApplication::clipboard()->setText(QString::fromUtf8("\U0001F600\U0001F601"));
+  shown<QLineEdit>()->paste();
+  EXPECT_EQ(panel->text().Text(), "ab\U0001F600");
+  EXPECT_EQ(toUtf8(shown<QLineEdit>()->text()), panel->text().Text());
+}
+
+TEST_F(TextBoxPeer, ATextLiesAtTheSameSideWhicheverWayItIsWritten) {
+  panel->text().SetFocus();
+  EXPECT_TRUE(shown<QLineEdit>()->alignment().testFlag(Qt::AlignAbsolute));
+}
+
+TEST_F(TextBoxPeer, LosesAFocusThatIsGivenToAnotherWhileItsWindowIsNotActive) {
+  panel->text().SetFocus();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_EQ(panel->input().focus(), &panel->text());
+  after->setFocus();
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  EXPECT_EQ(panel->input().focus(), nullptr);
+  EXPECT_TRUE(heard("text LostFocus"));
+  EXPECT_FALSE(shown<QLineEdit>());
 }
 
 TEST_F(TextBoxPeer, TypedLettersBecomeCapitalsAndTheCaretStays) {

@@ -99,7 +99,7 @@ void User::doubleClicks(host::Control& control) {
   clicks(control);
   if (!target || !surface) return;
   const Point at = middleOf(control);
-  input().doubleClick(at);
+  press(at, host::MouseButton::Left, true);
   if (surface) releasesAt(at);
 }
 
@@ -109,11 +109,14 @@ void User::clicksAt(Point at, host::MouseButton button) {
   if (surface) releasesAt(at, button);
 }
 
-void User::pressesAt(Point at, host::MouseButton button) {
+void User::pressesAt(Point at, host::MouseButton button) { press(at, button, false); }
+
+void User::press(Point at, host::MouseButton button, bool again) {
   platform_.setCursor(at);
   const WeakRef<host::Control> target(input().hit(at));
   const WeakRef<host::Control> surface(&surface_);
-  host::Control* const widget = input().mouseDown(button, host::shift::None, at);
+  host::Control* const widget =
+      again ? input().doubleClick(at) : input().mouseDown(button, host::shift::None, at);
   pressedWidget_ = surface ? WeakRef<host::Control>(widget) : WeakRef<host::Control>();
   if (auto* list = dynamic_cast<host::ListBox*>(pressedWidget_.get()))
     list->userPressed(button, list->fromSurface(at));

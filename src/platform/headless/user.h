@@ -54,6 +54,7 @@ class User {
 
  private:
   host::Input& input() { return surface_.input(); }
+  void press(Point at, host::MouseButton button, bool again);
   void typeAhead(host::Control* list, char32_t character);
   void typeCharacter(char32_t character);
   void keyInto(host::Control& editor, std::int16_t keyCode, std::int16_t shift);

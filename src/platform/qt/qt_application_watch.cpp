@@ -26,8 +26,11 @@ bool QtApplicationWatch::eventFilter(QObject* watched, QEvent* event) {
 
 // The native window is the host's; the controls' own windows in it are those that hear of it.
 void QtApplicationWatch::closing(QObject& widget) {
-  std::vector<QPointer<QWidget>> inside{static_cast<QWidget*>(&widget)};
-  for (QWidget* child : widget.findChildren<QWidget*>()) inside.emplace_back(child);
+  auto& closed = static_cast<QWidget&>(widget);
+  std::vector<QPointer<QWidget>> inside{&closed};
+  for (QWidget* child : closed.findChildren<QWidget*>()) {
+    if (child->window() == closed.window()) inside.emplace_back(child);
+  }
   for (const QPointer<QWidget>& one : inside) {
     const auto* canvas = dynamic_cast<QtCanvas*>(one.data());
     if (!canvas || !canvas->control()) continue;

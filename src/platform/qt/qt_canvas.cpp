@@ -71,6 +71,7 @@ void QtCanvas::changeEvent(QEvent* event) {
 bool QtCanvas::event(QEvent* event) {
   if (control_) {
     switch (event->type()) {
+      case QEvent::WindowActivate: windowCameBack(); break;
       case QEvent::ToolTip: return showToolTip(static_cast<QHelpEvent&>(*event));
       case QEvent::ShortcutOverride:
       case QEvent::KeyPress:
@@ -85,20 +86,27 @@ bool QtCanvas::event(QEvent* event) {
 
 // ---- mouse ----
 
-void QtCanvas::mousePressEvent(QMouseEvent* event) {
-  const auto button = mouseButton(event->button());
+void QtCanvas::mousePressEvent(QMouseEvent* event) { pressed(*event, false); }
+
+void QtCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
+  pressed(*event, event->button() == Qt::LeftButton);
+}
+
+void QtCanvas::pressed(const QMouseEvent& event, bool again) {
+  const auto button = mouseButton(event.button());
   if (!control_ || forwarder_.sending() || !button) return;
   // The focus may scroll what it comes to.
-  const host::Control* const under = input().hit(fromQt(event->position()));
+  const Point at = fromQt(event.position());
+  const host::Control* const under = input().hit(at);
   const Point before = under->onSurface().topLeft();
   host::Control* editor = nullptr;
   guarded([&] {
-    editor = input().mouseDown(*button, shiftState(event->modifiers()), fromQt(event->position()));
+    editor = again ? input().doubleClick(at) : input().mouseDown(*button, shiftState(event.modifiers()), at);
   });
   if (!control_) return;
   auto* peer = editor ? static_cast<QtPeer*>(editor->peer()) : nullptr;
   if (QWidget* receiver = peer ? peer->mouseReceiver() : nullptr)
-    forwarder_.press(*receiver, *event,
+    forwarder_.press(*receiver, event,
                      editor == under ? toQt(editor->onSurface().topLeft() - before) : QPointF());
   else if (!focusIsInside())
     keepFocus();
@@ -125,12 +133,6 @@ void QtCanvas::mouseReleaseEvent(QMouseEvent* event) {
   if (!control_ || forwarder_.sending() || !button) return;
   if (forwarder_.active()) return forwarder_.pass(*event);
   guarded([&] { input().mouseUp(*button, shiftState(event->modifiers()), fromQt(event->position())); });
-}
-
-void QtCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return mousePressEvent(event);
-  if (!control_ || forwarder_.sending()) return;
-  guarded([&] { input().doubleClick(fromQt(event->position())); });
 }
 
 void QtCanvas::wheelEvent(QWheelEvent* event) {
@@ -168,7 +170,8 @@ bool QtCanvas::showToolTip(QHelpEvent& event) {
   if (control) {
     // Never read as markup, whatever it looks like.
     const QString text = toQString(control->ToolTipText()).toHtmlEscaped();
-    QToolTip::showText(event.globalPos(), "<span>" + text + "</span>", this, toPixels(control->onSurface()));
+    const QString shown = "<span style='white-space: pre-wrap'>" + text + "</span>";
+    QToolTip::showText(event.globalPos(), shown, this, toPixels(control->onSurface()));
   } else {
     QToolTip::hideText();
     event.ignore();

@@ -86,6 +86,8 @@ class QtCanvas final : public QWidget {
   void focusLeft(Qt::FocusReason reason);
   void leave(bool forward);
   void showCursorOver(const QPointF& at);
+  void windowCameBack();
+  void pressed(const QMouseEvent& event, bool again);
   bool showToolTip(QHelpEvent& event);
   bool offersMenu(const QWidget& editor, const QContextMenuEvent& event);
 

@@ -55,6 +55,11 @@ void QtCanvas::focusLeft(Qt::FocusReason reason) {
   guarded([this] { input().surfaceLostFocus(); });
 }
 
+// The one that borrowed the focus may have given it to somebody else, and Qt tells that to nobody.
+void QtCanvas::windowCameBack() {
+  if (!quiet_ && input().focus() && !focusIsInside()) guarded([this] { input().surfaceLostFocus(); });
+}
+
 void QtCanvas::leave(bool forward) {
   keepFocus();
   if (QWidget::focusNextPrevChild(forward) || !control_) return;

@@ -36,7 +36,10 @@ void QtLineEdit::goTo(const TextState& state) {
   setText(state.text);
   setCursorPosition(state.caret);
   telling_ = false;
+  const QPointer<QWidget> alive(this);
+  goingBack_ = true;
   emit textEdited(state.text);
+  if (alive) goingBack_ = false;
 }
 
 void QtLineEdit::keyPressEvent(QKeyEvent* event) {

@@ -27,6 +27,8 @@ class QtLineEdit final : public QLineEdit {
 
   void undoEdit();
   void redoEdit();
+  /// The edit that is told of is one of those two: the text is one that has been here before.
+  bool goingBack() const { return goingBack_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -39,6 +41,7 @@ class QtLineEdit final : public QLineEdit {
 
   TextHistory history_;
   bool telling_ = false;
+  bool goingBack_ = false;
 };
 
 }  // namespace qrn::qt

@@ -26,6 +26,7 @@ CheckListWidget::CheckListWidget(QWidget* parent) : QListWidget(parent) {
 
 // The list paints its frame only; its entries are the viewport's.
 bool CheckListWidget::event(QEvent* event) {
+  if (event->type() == QEvent::EnabledChange || event->type() == QEvent::Hide) forgetPress();
   if (event->type() != QEvent::Paint) return QListWidget::event(event);
   QPainter painter(this);
   QStyleOption option;
@@ -102,6 +103,7 @@ QtListBoxPeer::~QtListBoxPeer() {
 QWidget* QtListBoxPeer::mouseReceiver() const { return widget() ? list_.viewport() : nullptr; }
 
 void QtListBoxPeer::applyEntries() {
+  list_.forgetPress();
   list_.clear();
   for (int i = 0; i < box_.ListCount(); ++i) {
     auto* item = new QListWidgetItem(toQString(box_.List(i)), &list_);

@@ -19,6 +19,8 @@ class CheckListWidget final : public QListWidget {
   std::function<int(char32_t)> entryTypedTo;
 
   void keyboardSearch(const QString& search) override;
+  /// What has been pressed is not there any more, or can't be used.
+  void forgetPress() { pressedRow_ = -1; }
 
  protected:
   bool event(QEvent* event) override;

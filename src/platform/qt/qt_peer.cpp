@@ -12,7 +12,7 @@ QtPeer::~QtPeer() {
   // Hiding the widget that has the focus would send the focus on to the next one.
   if (auto* canvas = dynamic_cast<QtCanvas*>(widget_->parentWidget())) canvas->takeFocusFrom(*widget_);
   widget_->hide();
-  widget_->deleteLater();
+  deleteAfterHandlers(*widget_, handlersBefore_);
 }
 
 void QtPeer::changed(host::Aspect aspect) {

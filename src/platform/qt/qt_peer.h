@@ -17,7 +17,7 @@ class QtCanvas;
 
 /// What every peer with a widget has. The peer belongs to the control and the widget to its Qt parent: either
 /// may go first. A peer may be dropped by what its own widget reports, so the widget is only put away then
-/// and deleted by the event loop; after reporting anything, a peer may be gone.
+/// and deleted by the event loop that the report came from; after reporting anything, a peer may be gone.
 class QtPeer : public host::Peer {
  public:
   QtPeer(const QtPeer&) = delete;
@@ -49,6 +49,7 @@ class QtPeer : public host::Peer {
 
  private:
   QPointer<QWidget> widget_;
+  const std::uint64_t handlersBefore_ = Handling::begun();
   QObject context_;
   bool applying_ = false;
 };

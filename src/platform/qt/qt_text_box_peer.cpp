@@ -51,13 +51,17 @@ QtTextBoxPeer::QtTextBoxPeer(QtCanvas& canvas, host::TextBox& box)
 void QtTextBoxPeer::applyLook() {
   applyPasswordChar();
   QtEditorPeer::applyLook();
-  line_.setAlignment(horizontalAlignment(box_.Alignment()) | Qt::AlignVCenter);
-  applyMaxLength();
+  // Absolute, or a text from right to left would lie at the other side.
+  line_.setAlignment(horizontalAlignment(box_.Alignment()) | Qt::AlignVCenter | Qt::AlignAbsolute);
 }
 
 void QtTextBoxPeer::applyPasswordChar() {
   const QChar hidden = passwordCharacter(box_);
   line_.setEchoMode(hidden.isNull() ? QLineEdit::Normal : QLineEdit::Password);
+  if (hidden.isNull() && hiding_) {
+    line_.setStyle(nullptr);
+    delete std::exchange(hiding_, nullptr);
+  }
   if (hidden.isNull() || (hiding_ && hiding_->serves(hidden))) return;
   auto* style = new HidingStyle(hidden);
   style->setParent(&line_);
@@ -70,22 +74,17 @@ void QtTextBoxPeer::applyEnabled() {
   line_.setReadOnly(box_.Locked());
 }
 
-// The control counts code points; a text that is too long already is shown as it is. A line edit sets its
-// text anew for a limit, the one that it has included.
-void QtTextBoxPeer::applyMaxLength() {
-  constexpr int kNoLimit = 32767;
-  const QString text = toQString(box_.Text());
-  const int pairs = static_cast<int>(text.size()) - codePointsBefore(text, static_cast<int>(text.size()));
-  const int limit = box_.MaxLength() > 0 ? std::min(box_.MaxLength(), kNoLimit) + pairs : kNoLimit;
-  const int allowed = std::max(limit, static_cast<int>(text.size()));
-  if (line_.maxLength() == allowed) return;
-  line_.setMaxLength(allowed);
-  applySelection();
+// The control has the limit: it counts code points, and a line edit would cut one in two. A line edit sets
+// its text anew for a limit, the one that it has included.
+void QtTextBoxPeer::makeRoom(const QString& text) {
+  constexpr int kUsual = 32767;
+  const int allowed = std::max(kUsual, static_cast<int>(text.size()));
+  if (line_.maxLength() < allowed) line_.setMaxLength(allowed);
 }
 
 void QtTextBoxPeer::applyContent() {
   const QString text = toQString(box_.Text());
-  applyMaxLength();
+  makeRoom(text);
   if (line_.text() != text) line_.write(text);
   applySelection();
 }
@@ -105,7 +104,11 @@ void QtTextBoxPeer::reportText() {
   line_.tellEdit([this] {
     report([this] {
       const QString text = line_.text();
-      box_.userTyped(toUtf8(text), codePointsBefore(text, line_.cursorPosition()));
+      const std::int32_t caret = codePointsBefore(text, line_.cursorPosition());
+      if (line_.goingBack())
+        box_.userWentBack(toUtf8(text), caret);
+      else
+        box_.userTyped(toUtf8(text), caret);
     });
   });
 }

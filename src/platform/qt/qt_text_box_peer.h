@@ -15,7 +15,7 @@ class QtTextBoxPeer final : public QtEditorPeer {
   void applyLook() override;
   void applyEnabled() override;
   void applyPasswordChar();
-  void applyMaxLength();
+  void makeRoom(const QString& text);
   void applySelection();
   void reportText();
   void reportSelection();
