@@ -15,14 +15,14 @@ class Device {
   explicit Device(const edd::Description& description);
 
   const Variant& read(std::size_t variable) const { return values_[variable]; }
-  void write(std::size_t variable, const Variant& value) { values_[variable] = value; }
+  void write(std::size_t variable, const Variant& value);
   /// Lets a moment pass for the dynamic values.
   void tick();
   /// What a method reports when it has run.
   std::string run(const edd::Method& method) const;
 
  private:
-  double moved(const edd::Variable& variable, double base, std::size_t index) const;
+  double moved(double base, std::size_t index) const;
 
   const edd::Description& description_;
   std::vector<Variant> values_;

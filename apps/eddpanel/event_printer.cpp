@@ -13,6 +13,11 @@ bool concernsItem(std::string_view event) {
   return event.starts_with("Item") || event.starts_with("Parameter") || event.starts_with("Action");
 }
 
+// A control's name without the place that it has on its page.
+std::string inDescription(std::string_view controlName) {
+  return std::string(controlName.substr(0, controlName.find('.')));
+}
+
 }  // namespace
 
 struct EventPrinter::Argument {
@@ -92,10 +97,10 @@ std::string EventPrinter::concerned(std::string_view name, QRNDisplay& page, std
   if (!concernsItem(name)) return {};
   const PanelItemPtr item = page.Items().Item(Variant(position));
   if (const auto* action = dynamic_cast<clsQRNAction*>(item.get()))
-    return ' ' + std::string(action->Control().Name());
+    return ' ' + inDescription(action->Control().Name());
   QRNEdit& row = static_cast<clsQRNParam&>(*item).Control();
   const bool hasValue = !row.Password() && !name.ends_with("Layout");
-  return ' ' + std::string(row.Name()) + (hasValue ? " = \"" + row.ValueText() + '"' : "");
+  return ' ' + inDescription(row.Name()) + (hasValue ? " = \"" + row.ValueText() + '"' : "");
 }
 
 }  // namespace qrn::eddpanel

@@ -2,6 +2,7 @@
 #include <iostream>
 #include <optional>
 
+#include "base/text.h"
 #include "device_pages.h"
 #include "edd/reader.h"
 #include "event_printer.h"
@@ -57,7 +58,7 @@ int run(const Options& options, int argc, char** argv) {
   if (description.menus().empty()) throw edd::DescriptionError({options.file, 1}, "there is no MENU to show");
   registerControls();
   // Numbers and dates are written, and read, as in the country of the language.
-  if (options.language.starts_with("de")) setCurrentLocale(deDE());
+  if (text::lowered(options.language).starts_with("de")) setCurrentLocale(deDE());
   if (options.list || !options.replay.empty()) return runHeadless(description, options);
   return eddpanel::runOnScreen(description, options.screen, argc, argv);
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/text.h"
 #include "item_help.h"
 #include "value_mapping.h"
 
@@ -34,8 +33,11 @@ void addHelpEntry(ItemControl& control, const ItemHelp& help) {
 // ---- making it ----
 
 void MenuPage::build() {
+  // A menu may be longer than a scroll bar of 16 bits reaches.
+  panel_.SetTallContent(true);
   for (const edd::MenuItem& item : menu_.items) {
-    const std::string name = isTaken(item) ? "" : item.name;
+    // With its place, as a name may stand in a menu twice, or be that of one of the panel's own parts.
+    const std::string name = item.name + '.' + std::to_string(panel_.Items().Count() + 1);
     switch (item.kind) {
       case edd::ItemKind::Variable:
         panel_.Items().AddParameter(name, valueTypeOf(description_.variables()[item.index]));
@@ -48,14 +50,6 @@ void MenuPage::build() {
   }
   buildFooter();
   panel_.SetColumnLayout(0, 0, 0, 10.2F);
-}
-
-// A variable may stand in a menu twice, and the case of names counts in descriptions only. Such an item is
-// named by its place.
-bool MenuPage::isTaken(const edd::MenuItem& item) const {
-  const auto* const end = &item;
-  return std::any_of(menu_.items.data(), end,
-                     [&](const edd::MenuItem& before) { return text::sameName(before.name, item.name); });
 }
 
 void MenuPage::buildFooter() {
@@ -164,7 +158,8 @@ Edits MenuPage::apply() {
   const Edits all = edits();
   for (std::int32_t item = 1; item <= panel_.Items().Count(); ++item) {
     if (!isEdited(item) || parameter(item).ParamError() != qrnErrorNone) continue;
-    device_.write(entry(item).index, fromRow(variableOf(item), row(item)->Value()));
+    const std::size_t variable = entry(item).index;
+    device_.write(variable, fromRow(variableOf(item), row(item)->Value(), device_.read(variable)));
     showStored(item);
   }
   return all;
@@ -186,10 +181,16 @@ void MenuPage::restoreDefault(std::int32_t item) {
   showStored(item);
 }
 
-// What the device has made of it.
+// What the device has made of it, in every row of it that has not been edited itself.
 void MenuPage::showStored(std::int32_t item) {
   row(item)->SetValueChanged(false);
-  parameter(item).SetParamValue(toRow(variableOf(item), device_.read(entry(item).index)));
+  const std::size_t variable = entry(item).index;
+  const Variant stored = toRow(variableOf(item), device_.read(variable));
+  parameter(item).SetParamValue(stored);
+  for (std::int32_t other = 1; other <= panel_.Items().Count(); ++other) {
+    if (other != item && other != edited_ && row(other) && entry(other).index == variable && !isEdited(other))
+      parameter(other).SetParamValue(stored);
+  }
 }
 
 }  // namespace qrn::eddpanel

@@ -62,7 +62,6 @@ class MenuPage final : public Object {
   void restoreDefault(std::int32_t item);
 
  private:
-  bool isTaken(const edd::MenuItem& item) const;
   void buildFooter();
   bool hasDynamicValues() const;
   bool isEdited(std::int32_t item);

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "runtime/conversions.h"
 #include "runtime/errors.h"
+#include "runtime/rounding.h"
 #include "runtime/val.h"
 #include "values/bit_string.h"
 
@@ -69,18 +70,33 @@ qrnValueType integerTypeOf(const Variable& variable) {
   return variable.type.size <= 3 || (variable.type.size == 4 && isSigned) ? qrnTypeLong : qrnTypeDouble;
 }
 
+// As the reader of descriptions takes it: decimal, 0x or 0b, each with a sign.
 double numberOf(std::string_view written) {
-  if (written.starts_with("0x") || written.starts_with("0X")) {
-    std::uint64_t value = 0;
-    std::from_chars(written.data() + 2, written.data() + written.size(), value, 16);
-    return static_cast<double>(value);
-  }
-  return Val(written);
+  const bool negative = written.starts_with('-');
+  const std::string_view digits = written.substr(negative || written.starts_with('+') ? 1 : 0);
+  const std::string start = text::lowered(digits.substr(0, 2));
+  if (start != "0x" && start != "0b") return Val(written);
+  std::uint64_t value = 0;
+  std::from_chars(digits.data() + 2, digits.data() + digits.size(), value, start == "0x" ? 16 : 2);
+  return negative ? -static_cast<double>(value) : static_cast<double>(value);
+}
+
+// A rule has its numbers with a point, wherever it is read.
+std::string inRule(double limit) {
+  char written[32];
+  return {written, std::to_chars(written, written + sizeof written, limit).ptr};
+}
+
+// What fits into a whole number of so many bytes.
+std::string rangeOf(const edd::ValueType& type) {
+  const int bits = 8 * static_cast<int>(std::clamp<std::uint32_t>(type.size, 1, 8));
+  if (type.kind == ValueKind::UnsignedInteger) return "0.." + inRule(std::ldexp(1.0, bits) - 1);
+  return inRule(-std::ldexp(1.0, bits - 1)) + ".." + inRule(std::ldexp(1.0, bits - 1) - 1);
 }
 
 std::uint64_t bitsOf(const Variant& kept) {
   const double number = std::abs(CDbl(kept));
-  return number < 0x1p63 ? static_cast<std::uint64_t>(number) : 0;
+  return number < 0x1p64 ? static_cast<std::uint64_t>(number) : 0;
 }
 
 std::int32_t entryOf(const Variable& variable, const Variant& kept) {
@@ -100,12 +116,15 @@ std::string bitString(const Variable& variable, const Variant& kept) {
   return bits;
 }
 
-double valueOfBits(const Variable& variable, std::string_view bits) {
-  std::uint64_t value = 0;
+// Bits that the description does not name stay as the device has them.
+double valueOfBits(const Variable& variable, std::string_view bits, const Variant& kept) {
+  std::uint64_t named = 0, value = 0;
   for (int i = 0; i < static_cast<int>(variable.enumerators.size()); ++i) {
-    if (BitStringGet(bits, i)) value |= variable.enumerators[static_cast<std::size_t>(i)].value;
+    const std::uint64_t mask = variable.enumerators[static_cast<std::size_t>(i)].value;
+    named |= mask;
+    if (BitStringGet(bits, i)) value |= mask;
   }
-  return static_cast<double>(value);
+  return static_cast<double>((bitsOf(kept) & ~named) | value);
 }
 
 }  // namespace
@@ -147,10 +166,14 @@ std::string valueRuleOf(const Variable& variable) {
   std::string rule;
   for (const edd::Range& range : variable.ranges) {
     // Written out as plain numbers: a rule reads no hexadecimal of this kind.
-    const auto limit = [](const auto& one) { return one ? CStr(Variant(one->value)) : std::string(); };
+    const auto limit = [](const auto& one) { return one ? inRule(one->value) : std::string(); };
     if (!rule.empty()) rule += ';';
     rule += limit(range.minimum) + ".." + limit(range.maximum);
   }
+  // A negative number in hexadecimal has digits beyond its range.
+  const bool isSigned = variable.type.kind == ValueKind::Integer;
+  if (rule.empty() && variable.type.isInteger() && !(isSigned && isHexadecimal(variable)))
+    return rangeOf(variable.type);
   return rule;
 }
 
@@ -184,7 +207,7 @@ Variant toRow(const Variable& variable, const Variant& kept) {
   }
 }
 
-Variant fromRow(const Variable& variable, const Variant& shown) {
+Variant fromRow(const Variable& variable, const Variant& shown, const Variant& kept) {
   switch (valueTypeOf(variable)) {
     case qrnTypeBoolean: return CBool(shown) ? 1.0 : 0.0;
     case qrnTypeList: {
@@ -192,10 +215,10 @@ Variant fromRow(const Variable& variable, const Variant& shown) {
       const bool known = entry >= 0 && static_cast<std::size_t>(entry) < variable.enumerators.size();
       return known ? static_cast<double>(variable.enumerators[static_cast<std::size_t>(entry)].value) : 0.0;
     }
-    case qrnTypeBitfield: return valueOfBits(variable, CStr(shown));
+    case qrnTypeBitfield: return valueOfBits(variable, CStr(shown), kept);
     case qrnTypeDate: return CDate(shown);
     case qrnTypeString: return CStr(shown);
-    default: return CDbl(shown);
+    default: return variable.type.isInteger() ? roundHalfEven(CDbl(shown)) : CDbl(shown);
   }
 }
 

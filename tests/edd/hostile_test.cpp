@@ -60,7 +60,8 @@ TEST_F(FileReader, RefusesAFileThatIncludesItselfUnderAnotherSpelling) {
 TEST_F(FileReader, RefusesToIncludeADirectory) {
   std::filesystem::create_directories(folder_ / "inc");
   const std::string path = write("main.ddl", "\n#include \"inc\"\n");
-  EXPECT_EQ(errorOfFile(path), (folder_ / "inc").string() + ":1: is a directory, not a description");
+  EXPECT_EQ(errorOfFile(path), path + ":2: cannot read the included file: " + (folder_ / "inc").string() +
+                                   ":1: is a directory, not a description");
 }
 
 TEST_F(FileReader, RefusesAMegabyteOfRandomBytes) {

@@ -147,7 +147,10 @@ TEST(Directive, ThatIsNotKnownIsSkippedWithAWarning) {
             Texts{"test.ddl:2: #pragma is not known and skipped"});
 }
 
-TEST(Directive, ErrorIsRefused) { EXPECT_EQ(errorOf("\n#error no"), "test.ddl:2: #error"); }
+TEST(Directive, ErrorIsRefusedWithItsText) {
+  EXPECT_EQ(errorOf("\n#error no profile"), "test.ddl:2: #error no profile");
+  EXPECT_EQ(errorOf("\n#error"), "test.ddl:2: #error");
+}
 
 TEST(Include, ReadsAFileBesideTheIncludingOne) {
   const auto options =

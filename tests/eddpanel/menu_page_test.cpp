@@ -1,3 +1,6 @@
+#include <memory>
+#include <optional>
+
 #include "sample_device.h"
 
 #include "images/built_in_pictures.h"
@@ -129,6 +132,76 @@ TEST_F(SampleDevice, ShowsTheSameVariableTwiceAndNamesThatDifferInTheirCaseOnly)
   ASSERT_EQ(shown.top()->panel().Items().Count(), 3);
   EXPECT_EQ(shown.top()->row(2)->LabelText(), "A");
   EXPECT_EQ(shown.top()->row(3)->LabelText(), "Other");
+}
+
+// A page of its own description, opened by its menu "m".
+class OwnPage : public SampleDevice {
+ protected:
+  MenuPage& open(const std::string& text) {
+    own_ = edd::readDescriptionText(
+        "MANUFACTURER 1, DEVICE_TYPE 1, DEVICE_REVISION 1, DD_REVISION 1\n" + text, "own.ddl");
+    stack_ = host::create<QRNDisplayStack>(site);
+    shown_ = std::make_unique<DevicePages>(*own_, *stack_, answers);
+    shown_->open(*own_->menu("m"));
+    return *shown_->top();
+  }
+  static void enter(MenuPage& page, std::int32_t item, std::string_view text) {
+    auto& box = dynamic_cast<host::TextBox&>(*page.row(item)->CurrentEditor());
+    page.row(item)->CurrentEditor()->SetFocus();
+    box.userTyped(text, 0);
+    page.row(page.panel().Items().Count())->CurrentEditor()->SetFocus();
+  }
+
+ private:
+  std::optional<edd::Description> own_;
+  host::Owned<QRNDisplayStack> stack_;
+  std::unique_ptr<DevicePages> shown_;
+};
+
+TEST_F(OwnPage, MayHaveItemsNamedLikePartsOfThePanelOrMadeNames) {
+  MenuPage& page = open(R"(
+    VARIABLE lblTitle { LABEL "T"; CLASS CONTAINED; TYPE INTEGER(2); }
+    VARIABLE Parameter2 { LABEL "P"; CLASS CONTAINED; TYPE INTEGER(2); }
+    MENU imlImages { LABEL "I"; ITEMS { lblTitle } }
+    MENU m { LABEL "M"; ITEMS { lblTitle, lblTitle, Parameter2, imlImages } })");
+  EXPECT_EQ(page.panel().Items().Count(), 4);
+}
+
+TEST_F(OwnPage, ShowsWhatWasWrittenInEveryRowOfTheVariable) {
+  MenuPage& page = open(R"(
+    VARIABLE a { LABEL "A"; CLASS CONTAINED; TYPE INTEGER(2); }
+    VARIABLE b { LABEL "B"; CLASS CONTAINED; TYPE INTEGER(2); }
+    MENU m { LABEL "M"; ITEMS { a, a, a, b } })");
+  enter(page, 1, "12");
+  page.apply();
+  EXPECT_EQ(page.row(2)->ValueText(), "12");
+  enter(page, 1, "13");
+  enter(page, 3, "57");
+  page.apply();
+  for (const std::int32_t item : {1, 2, 3}) EXPECT_EQ(page.row(item)->ValueText(), "57") << item;
+}
+
+TEST_F(OwnPage, MayBeLongerThanAScrollBarOf16BitsReaches) {
+  std::string items;
+  for (int i = 0; i < 2000; ++i) items += i ? ", a" : "a";
+  MenuPage& page =
+      open("VARIABLE a { LABEL \"A\"; CLASS CONTAINED; TYPE INTEGER(2); }\nMENU m { LABEL \"M\"; ITEMS { " +
+           items + " } }");
+  EXPECT_GT(page.panel().sbrVertical().Max(), 32767);
+}
+
+TEST(DeviceInMemory, LetsWhatIsWrittenToADynamicValueStay) {
+  const auto description = edd::readDescriptionText(
+      "MANUFACTURER 1, DEVICE_TYPE 1, DEVICE_REVISION 1, DD_REVISION 1\n"
+      "VARIABLE count { LABEL \"C\"; CLASS DYNAMIC; TYPE UNSIGNED_INTEGER(2) { DEFAULT_VALUE 7; } }\n"
+      "VARIABLE level { LABEL \"L\"; CLASS DYNAMIC; TYPE FLOAT { DEFAULT_VALUE 10; } }\n",
+      "dynamic.ddl");
+  Device device(description);
+  device.write(0, Variant(99.0));
+  device.write(1, Variant(50.0));
+  for (int i = 0; i < 20; ++i) device.tick();
+  EXPECT_EQ(device.read(0), Variant(99.0));
+  EXPECT_NEAR(*device.read(1).get<double>(), 50, 2);
 }
 
 TEST_F(SampleDevice, PrintsAPageAsText) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "runtime/locale.h"
+
 namespace qrn::eddpanel {
 namespace {
 
@@ -64,11 +66,28 @@ TEST(ValueMapping, JoinsRangesIntoOneRule) {
   EXPECT_EQ(valueRuleOf(variable), "0..10;20.5..");
 }
 
+TEST(ValueMapping, WritesTheLimitsOfARuleTheSameInEveryLanguage) {
+  edd::Variable variable = variableOf(ValueKind::Double, 8);
+  variable.ranges = {{edd::Limit{"0.1", 0.1}, edd::Limit{"1234567.890123456", 1234567.890123456}}};
+  setCurrentLocale(deDE());
+  const std::string rule = valueRuleOf(variable);
+  setCurrentLocale(enUS());
+  EXPECT_EQ(rule, "0.1..1234567.890123456");
+}
+
+TEST(ValueMapping, KeepsWholeNumbersInTheirType) {
+  EXPECT_EQ(valueRuleOf(variableOf(ValueKind::UnsignedInteger, 1)), "0..255");
+  EXPECT_EQ(valueRuleOf(variableOf(ValueKind::Integer, 2)), "-32768..32767");
+  EXPECT_EQ(valueRuleOf(variableOf(ValueKind::UnsignedInteger, 4)), "0..4294967295");
+  EXPECT_EQ(valueRuleOf(variableOf(ValueKind::Float, 4)), "");
+  EXPECT_EQ(fromRow(variableOf(ValueKind::UnsignedInteger, 4), Variant(1.5), Variant(0.0)), Variant(2.0));
+}
+
 TEST(ValueMapping, ShowsAnEnumerationByThePlaceOfItsValue) {
   const edd::Variable variable = enumerationOf(ValueKind::Enumerated, {{10, "ten", ""}, {20, "twenty", ""}});
   EXPECT_EQ(toRow(variable, Variant(20.0)), Variant(std::int32_t{1}));
   EXPECT_EQ(toRow(variable, Variant(5.0)), Variant(std::int32_t{-1}));
-  EXPECT_EQ(fromRow(variable, Variant(std::int32_t{1})), Variant(20.0));
+  EXPECT_EQ(fromRow(variable, Variant(std::int32_t{1}), Variant(10.0)), Variant(20.0));
 }
 
 TEST(ValueMapping, ShowsBitsByTheirMasks) {
@@ -76,13 +95,23 @@ TEST(ValueMapping, ShowsBitsByTheirMasks) {
       enumerationOf(ValueKind::BitEnumerated, {{1, "a", ""}, {4, "b", ""}, {0x18, "c", ""}});
   EXPECT_EQ(toRow(variable, Variant(29.0)), Variant("111"));
   EXPECT_EQ(toRow(variable, Variant(13.0)), Variant("011"));
-  EXPECT_EQ(fromRow(variable, Variant("101")), Variant(25.0));
+  EXPECT_EQ(fromRow(variable, Variant("101"), Variant(0.0)), Variant(25.0));
+}
+
+TEST(ValueMapping, LeavesBitsWithoutANameAsTheyAre) {
+  const edd::Variable variable = enumerationOf(ValueKind::BitEnumerated, {{1, "a", ""}, {2, "b", ""}});
+  EXPECT_EQ(fromRow(variable, Variant("10"), Variant(129.0)), Variant(130.0));
+  EXPECT_EQ(fromRow(variable, Variant("11"), Variant(0x1p63)), Variant(0x1p63 + 3));
 }
 
 TEST(ValueMapping, ReadsDefaultsOfEveryKind) {
   edd::Variable number = variableOf(ValueKind::UnsignedInteger);
   number.defaultValue = "0x80";
   EXPECT_EQ(defaultOf(number), Variant(128.0));
+  number.defaultValue = "0b101";
+  EXPECT_EQ(defaultOf(number), Variant(5.0));
+  number.defaultValue = "-0x10";
+  EXPECT_EQ(defaultOf(number), Variant(-16.0));
   edd::Variable date = variableOf(ValueKind::Date);
   date.defaultValue = "2024-03-18";
   EXPECT_EQ(defaultOf(date), Variant(Date{45369}));

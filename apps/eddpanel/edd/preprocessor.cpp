@@ -72,12 +72,18 @@ void Preprocessor::directive() {
     if (name->is("undef")) {
       macros_.undefine(operand(*name, TokenKind::Name, "a name").text);
     } else if (name->is("error")) {
-      fail(*name, "#error");
+      fail(*name, "#error" + restOfLine());
     } else {
       warnings_.add(*name, "#" + std::string(name->text) + " is not known and skipped");
     }
   }
   lexer().skipLine();
+}
+
+std::string Preprocessor::restOfLine() {
+  std::string rest;
+  while (const auto token = lexer().nextInLine()) rest += ' ' + std::string(token->text);
+  return rest;
 }
 
 Token Preprocessor::operand(const Token& name, TokenKind kind, const char* what) {
@@ -89,7 +95,12 @@ Token Preprocessor::operand(const Token& name, TokenKind kind, const char* what)
 void Preprocessor::include(const Token& name) {
   const Token file = operand(name, TokenKind::Text, "a file name in quotes");
   lexer().skipLine();
-  const SourceText* source = sources_.include(*file.source, file.text);
+  const SourceText* source = nullptr;
+  try {
+    source = sources_.include(*file.source, file.text);
+  } catch (const DescriptionError& error) {
+    fail(file, "cannot read the included file: " + std::string(error.what()));
+  }
   if (source == nullptr) fail(file, "cannot open the included file " + inQuotes(file.text));
   enter(*source, file);
 }

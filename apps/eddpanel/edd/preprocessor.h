@@ -56,6 +56,7 @@ class Preprocessor {
   bool evaluate(const Token& name);
   bool isTrue(const Token& operand) const;
   Token operand(const Token& name, TokenKind kind, const char* what);
+  std::string restOfLine();
 
   Sources& sources_;
   Warnings& warnings_;
