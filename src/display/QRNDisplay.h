@@ -395,7 +395,8 @@ class QRNDisplay final : public host::UserControl, public host::CallTarget, priv
   bool active_ = true;
   bool redraw_ = false;
   bool tallContent_ = false;
-  bool columnsFit_ = false;  // as far as nothing has changed that they depend on
+  bool columnsFit_ = false;     // as far as nothing has changed that they depend on
+  std::uint32_t placings_ = 0;  // of the items, so far
   bool editing_ = false;
   bool editChanged_ = false;   // of an end that is held back
   bool toolTipShown_ = false;  // and no row has heard since that the application has been left

@@ -98,9 +98,12 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
   std::int32_t tab = 0;
   const WeakRef<host::Control> self(this);
   const host::ContainerControl::Rearrangement rearrangement(pbxContainer_);
-  // A row that ends its edit when it is placed has listeners, and they may change the items.
+  // A row that ends its edit when it is placed has listeners. They may change the items, and when they lay
+  // them out, nothing is left to be done.
+  const std::uint32_t placing = ++placings_;
+  const auto goesOn = [&] { return self && placings_ == placing; };
   clsQRNCollection::Walk walk(items_->items_);
-  while (const PanelItem* item = walk.next()) {
+  while (const PanelItem* item = goesOn() ? walk.next() : nullptr) {
     host::Control* control = item->control();
     if (!control || !control->Visible()) continue;
     control->SetTabIndex(++tab);
@@ -112,7 +115,7 @@ void QRNDisplay::placeItems(const ColumnWidths& automatic) {
       gap = 0;
     }
   }
-  if (self) setUpScrollBar(y);
+  if (goesOn()) setUpScrollBar(y);
 }
 
 // Answers where the item ends. Buttons touch each other; rows keep a distance from everything.

@@ -4,6 +4,7 @@
 #include <functional>
 #include <set>
 
+#include "base/first_error.h"
 #include "host/user_control.h"
 
 namespace qrn::host {
@@ -61,9 +62,12 @@ void ContainerControl::arrangeLater() {
 
 void ContainerControl::arrange() {
   unarranged_ = false;
+  const WeakRef<Control> self(this);
+  FirstError error;
   ++rearranging_;  // whoever has to know has been told already
-  arrangeInside();
-  --rearranging_;
+  error.of([&] { arrangeInside(); });
+  if (self) --rearranging_;
+  error.raise();
 }
 
 // The native widgets inside ask for their place, if there are any.

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <unordered_set>
 
+#include "base/letter_case.h"
 #include "base/text.h"
 #include "host/font.h"
 #include "host/picture.h"
@@ -64,6 +65,8 @@ std::string PropertyBag::toText() const {
 
 PropertyBag PropertyBag::fromText(std::string_view text, std::string_view name) {
   int number = 1;
+  if (constexpr std::string_view kMark = "\xEF\xBB\xBF"; text.starts_with(kMark))
+    text.remove_prefix(kMark.size());
   if (takeLine(text) != kHeader) refuseLine(name, number, "expected \"" + std::string(kHeader) + '"');
   PropertyBag bag;
   // Kept beside the bag, which would have to look through all it has for each line of a large text.
@@ -73,7 +76,7 @@ PropertyBag PropertyBag::fromText(std::string_view text, std::string_view name) 
     ++number;
     if (line.empty()) continue;
     Item item = readLine(line, name, number);
-    if (!keys.insert(text::lowered(item.key)).second)
+    if (!keys.insert(lowerCase(std::string_view(item.key))).second)
       refuseLine(name, number, "property \"" + shownPart(item.key) + "\" stands here a second time");
     bag.items_.push_back(std::move(item));
   }

@@ -111,12 +111,18 @@ bool readPlainDouble(std::string_view text, double& value) {
 Currency currencyFrom(double value) {
   const double scaled = value * Currency::kUnit;
   if (!(std::fabs(scaled) < 9223372036854775807.0)) raiseRunTimeError(kOverflow);
-  double whole = roundHalfEven(scaled);
-  // A product that only looks like a tie goes to the side on which the exact one lies.
-  const double rest = std::fma(value, Currency::kUnit, -scaled);
-  if (std::fabs(scaled - std::trunc(scaled)) == 0.5 && rest != 0)
-    whole = rest > 0 ? std::ceil(scaled) : std::floor(scaled);
-  return {static_cast<std::int64_t>(whole)};
+  // The exact product is whole + fraction + rest: a Double has fewer digits than a large Currency.
+  double whole = std::floor(scaled), rest = std::fma(value, Currency::kUnit, -scaled);
+  const double fraction = scaled - whole;
+  auto units = static_cast<std::int64_t>(whole);
+  if (std::fabs(rest) >= 1) {
+    whole = std::floor(rest);
+    units += static_cast<std::int64_t>(whole);
+    rest -= whole;
+  }
+  const double beyondHalf = fraction - 0.5 + rest;
+  const bool up = beyondHalf > 0 || (beyondHalf == 0 && units % 2 != 0);
+  return {units + (up ? 1 : 0)};
 }
 
 Currency currencyFrom(const NumberText& number) { return {wholeUnits(number, kCurrencyDecimals)}; }

@@ -225,12 +225,26 @@ TEST_F(FaultsWhileLayingOut, NoItemIsLeftOutWhenAnEarlierOneGoes) {
   EXPECT_EQ(row(3).Top() - row(2).Top(), row(2).Top() - row(1).Top());
 }
 
-TEST_F(FaultsWhileLayingOut, NoItemIsMetTwiceWhenOneComesInFront) {
-  const auto connection = ending([this] { items().AddParameter("New", qrnTypeString, Variant(1)); });
+TEST_F(FaultsWhileLayingOut, NoItemIsMetTwiceWhenSomeComeInFront) {
+  const auto connection = ending([this] {
+    items().AddParameter("New", qrnTypeString, Variant(1));
+    items().AddParameter("New2", qrnTypeString, Variant("B"));
+  });
   panel().LayoutControls(false);
   EXPECT_EQ(ended, 1);
-  EXPECT_EQ(row(3).TabIndex(), 2) << "B";
-  EXPECT_EQ(row(4).TabIndex(), 3) << "C";
+  EXPECT_EQ(row(4).TabIndex(), 2) << "B";
+  EXPECT_EQ(row(5).TabIndex(), 3) << "C";
+}
+
+TEST_F(FaultsWhileLayingOut, TheItemsMayBeLaidOut) {
+  const auto connection = ending([this] {
+    items().Remove(Variant("A"));
+    panel().LayoutControls(false);
+  });
+  panel().LayoutControls(false);
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(row(2).TabIndex(), 2);
+  EXPECT_EQ(row(2).Top() - row(1).Top(), row(1).Height() + panel().GetVerticalSpacing());
 }
 
 TEST_F(FaultsWhileLayingOut, ThePanelMayGo) {

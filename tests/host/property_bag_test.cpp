@@ -52,6 +52,21 @@ TEST(PropertyBags, TakeAnyKeyThroughTheirText) {
   expectSame(bag, PropertyBag::fromText(bag.toText()));
 }
 
+TEST(PropertyBags, MayBeginWithTheMarkThatSomeEditorsPutInFront) {
+  EXPECT_EQ(PropertyBag::fromText("\xEF\xBB\xBFQRNV16Controls2 properties 1\nWidth = Long 5\n")
+                .readProperty("Width"),
+            Variant(5));
+}
+
+TEST(PropertyBags, RefuseAKeyThatIsThereInTheOtherCase) {
+  for (const char* keys : {"Width = Long 1\nWIDTH = Long 2\n", "\u00e4 = Long 1\n\u00c4 = Long 2\n"})
+    EXPECT_NE(refusal([&] {
+                PropertyBag::fromText("QRNV16Controls2 properties 1\n" + std::string(keys));
+              }).find("stands here a second time"),
+              std::string::npos)
+        << keys;
+}
+
 TEST(PropertyBags, LookLikeThis) {
   PropertyBag bag;
   bag.writeProperty("Title", "Tank \"1\"\n");
