@@ -32,9 +32,7 @@ constexpr std::size_t kMostTokens = 24;
 
 using ascii::isBlank;
 using ascii::isDigit;
-bool isLetter(char c) {
-  return ascii::isLetter(c) || static_cast<unsigned char>(c) >= 0x80;
-}
+bool isLetter(char c) { return ascii::isLetter(c) || static_cast<unsigned char>(c) >= 0x80; }
 
 template <class Belongs>
 std::string_view takeWhile(std::string_view& rest, Belongs belongs) {
