@@ -14,12 +14,14 @@ class Arranged final : public TestControl {
 
   host::Label label;
   int arranged = 0;
+  bool fails = false;
 
  protected:
   void initialize() override { contain(label, *this, "label"); }
   void resize() override { arrangeLater(); }
   void arrangeInside() override {
     ++arranged;
+    if (fails) raiseRunTimeError(kOverflow);
     label.Move(Width() / 2, 3, 40, 13);
   }
 };
@@ -78,6 +80,20 @@ TEST_F(Arranging, HasThePlacePaintedAgainAtOnceAndNotWhenItIsDone) {
   EXPECT_GT(asked, 0u);
   inner.label.Left();
   EXPECT_EQ(canvas().invalidated.size(), asked);
+}
+
+TEST_F(Arranging, ThatFailsLeavesAContainerWhosePartsArePaintedAgain) {
+  surface().realise();
+  inner.label.Left();
+  inner.fails = true;
+  inner.SetWidth(80);
+  EXPECT_EQ(errorOf([&] { inner.label.Left(); }), kOverflow);
+  inner.fails = false;
+  canvas().invalidated.clear();
+  inner.label.SetTop(10);
+  EXPECT_FALSE(canvas().invalidated.empty());
+  inner.SetWidth(60);
+  EXPECT_EQ(inner.label.Left(), 30);
 }
 
 TEST_F(Arranging, OfWhatGoesIsNotDoneAnyMore) {

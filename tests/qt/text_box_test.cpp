@@ -125,6 +125,7 @@ TEST_F(TextBoxPeer, APasswordShowsItsCharacterForEveryOther) {
   panel->text().SetPasswordChar("");
   EXPECT_EQ(shown<QLineEdit>()->displayText().size(), 11);
   EXPECT_EQ(shown<QLineEdit>()->displayText(), shown<QLineEdit>()->text());
+  EXPECT_EQ(shown<QLineEdit>()->style(), QApplication::style()) << "it follows the application's again";
 }
 
 TEST_F(TextBoxPeer, ALockedBoxSelectsButDoesNotChange) {
